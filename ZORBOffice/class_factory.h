@@ -1,0 +1,14 @@
+// The class factory of all three classes.
+#pragma once
+
+#include <windows.h>
+#include <unknwn.h>
+
+#include "ZORBOffice/class_table.h"
+
+namespace zorboffice {
+
+// Returns the class factory of a class as the interface id asks for.
+HRESULT get_class_factory(const ClassRow& row, REFIID id, void** factory) noexcept;
+
+}  // namespace zorboffice

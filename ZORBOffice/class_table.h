@@ -1,0 +1,28 @@
+// The three classes: what registration, the class factory and the instances know of them.
+#pragma once
+
+#include <windows.h>
+#include <unknwn.h>
+
+#include <span>
+
+#include "ZORBOffice/surface/control.h"
+#include "ZORBOffice/surface/published_classes.h"
+
+namespace zorboffice {
+
+struct ClassRow {
+  const PublishedClass& published;
+  int toolbox_bitmap;                            // resource number
+  IUnknown* (*create)(const DefaultInterface&);  // with one reference; throws std::bad_alloc
+  DefaultInterface default_interface;
+  IID event_interface_id;
+};
+
+// The table, empty until load_class_table() has succeeded.
+std::span<const ClassRow> class_table() noexcept;
+
+// Reads the interface identifiers from the library's resources. Returns false where one is damaged.
+bool load_class_table() noexcept;
+
+}  // namespace zorboffice

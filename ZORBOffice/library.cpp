@@ -1,0 +1,37 @@
+// The library's entry points.
+#include <windows.h>
+#include <olectl.h>
+
+#include "ZORBOffice/class_factory.h"
+#include "ZORBOffice/class_table.h"
+#include "ZORBOffice/module.h"
+#include "ZORBOffice/registration.h"
+
+using namespace zorboffice;
+
+BOOL WINAPI DllMain(HINSTANCE module, DWORD reason, LPVOID) {
+  if (reason != DLL_PROCESS_ATTACH) return TRUE;
+  set_module_handle(module);
+  DisableThreadLibraryCalls(module);
+  return load_class_table();
+}
+
+// Returns the class factory of one of the three classes, CLASS_E_CLASSNOTAVAILABLE for any other identifier.
+STDAPI DllGetClassObject(REFCLSID class_id, REFIID id, LPVOID* factory) {
+  if (!factory) return E_POINTER;
+  *factory = nullptr;
+  for (const ClassRow& row : class_table()) {
+    if (row.published.class_id == class_id) return get_class_factory(row, id, factory);
+  }
+  return CLASS_E_CLASSNOTAVAILABLE;
+}
+
+// Returns S_OK only while no instance and no class-factory lock is alive.
+STDAPI DllCanUnloadNow() { return can_unload_module() ? S_OK : S_FALSE; }
+
+// Registers the classes and the type library for the machine. Returns the failure of the first entry that
+// could not be written; nothing of the library is registered then.
+STDAPI DllRegisterServer() { return register_library(); }
+
+// Removes everything that registration wrote.
+STDAPI DllUnregisterServer() { return unregister_library(); }

@@ -1,0 +1,35 @@
+#include "ZORBOffice/module.h"
+
+#include <atomic>
+
+namespace zorboffice {
+namespace {
+
+HMODULE own_module = nullptr;
+std::atomic<long> references = 0;
+
+}  // namespace
+
+HMODULE module_handle() noexcept { return own_module; }
+void set_module_handle(HMODULE module) noexcept { own_module = module; }
+
+std::wstring module_path() {
+  std::wstring path(MAX_PATH, L'\0');
+  for (;;) {
+    const DWORD length = GetModuleFileNameW(own_module, path.data(), static_cast<DWORD>(path.size()));
+    if (length < path.size()) {
+      path.resize(length);
+      return path;
+    }
+    path.resize(path.size() * 2);
+  }
+}
+
+ModuleReference::ModuleReference() noexcept { ++references; }
+ModuleReference::~ModuleReference() { --references; }
+
+void lock_module(bool lock) noexcept { references += lock ? 1 : -1; }
+
+bool can_unload_module() noexcept { return references == 0; }
+
+}  // namespace zorboffice

@@ -1,0 +1,103 @@
+// The word processor's members. surface/word_processor_interface.h says what each does.
+#pragma once
+
+#include "ZORBOffice/common/automation_object.h"
+#include "ZORBOffice/common/member_frame.h"
+#include "ZORBOffice/surface/control.h"
+#include "ZORBOffice/surface/word_processor_interface.h"
+
+namespace zorboffice {
+
+class WordMembers : public Control<WordProcessorInterface> {
+ public:
+  using Control::Control;
+
+  // session.cpp
+  HRESULT STDMETHODCALLTYPE get_Start(VARIANT_BOOL* Template, BYTE* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE get_SetVisible(VARIANT_BOOL* IsVisible, BYTE* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE get_SetActive(VARIANT_BOOL* IsActive, BYTE* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE get_SetScreenUpdating(VARIANT_BOOL* Update, BYTE* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE StopWord(VARIANT_BOOL* Force, VARIANT* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE GetDefaultPaths(SHORT* PathId, BSTR* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE get_GetLastErrorNumber(LONG* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE get_GetLastErrorDescription(BSTR* result) noexcept override;
+
+  // documents.cpp
+  HRESULT STDMETHODCALLTYPE get_OpenDoc(BSTR* Doc, BYTE* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE get_CreateDoc(BSTR* Doc, BYTE* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE FinaliseDoc(VARIANT* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE SaveDoc(BSTR* Docname, VARIANT* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE SaveDocAsPDF(VARIANT_BOOL* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE CloseDoc(SHORT* SaveOption, VARIANT* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE PrintDoc(SHORT* Copies, VARIANT_BOOL* Background,
+                                     VARIANT* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE IsPrinting(SHORT* result) noexcept override;
+
+  // text.cpp
+  HRESULT STDMETHODCALLTYPE get_SendText(BSTR* Text, BYTE* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE get_ReadText(LONG* StartPos, LONG* EndPos, BSTR* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE get_SelectionText(BSTR* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE Cut(VARIANT* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE Paste(VARIANT* result) noexcept override;
+
+  // cursor.cpp
+  HRESULT STDMETHODCALLTYPE SelectParagraph(VARIANT* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE CursorLeft(SHORT* Units, SHORT* Unit, VARIANT* Selecting,
+                                       VARIANT* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE CursorRight(SHORT* Units, SHORT* Unit, VARIANT* Selecting,
+                                        VARIANT* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE CursorStartOfParagraph(VARIANT* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE CursorStartOfCell(VARIANT* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE CursorEndOfCell(VARIANT* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE CursorEndOfParagraph(VARIANT* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE Move(SHORT* Unit, SHORT* Units, VARIANT* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE GotoLine(SHORT* LineNo, VARIANT_BOOL* result) noexcept override;
+
+  // Not built yet.
+  HRESULT STDMETHODCALLTYPE get_Search(BSTR*, BYTE*, VARIANT_BOOL*, VARIANT_BOOL*, VARIANT_BOOL*,
+                                       VARIANT_BOOL*, VARIANT_BOOL*, VARIANT_BOOL*, VARIANT_BOOL*,
+                                       BYTE* result) noexcept override {
+    return not_built(result);
+  }
+  HRESULT STDMETHODCALLTYPE get_InTable(BYTE* result) noexcept override { return not_built(result); }
+  HRESULT STDMETHODCALLTYPE SelectRow(VARIANT* result) noexcept override { return not_built(result); }
+  HRESULT STDMETHODCALLTYPE get_Replace(BSTR*, BSTR*, BYTE*, VARIANT_BOOL*, VARIANT_BOOL*, VARIANT_BOOL*,
+                                        VARIANT_BOOL*, VARIANT_BOOL*, VARIANT_BOOL*, VARIANT_BOOL*, BYTE*,
+                                        BYTE* result) noexcept override {
+    return not_built(result);
+  }
+  HRESULT STDMETHODCALLTYPE get_NumberOfSections(LONG* result) noexcept override { return not_built(result); }
+  HRESULT STDMETHODCALLTYPE get_ReadHeaderFooterText(LONG*, VARIANT_BOOL*, BYTE*, LONG*, LONG*,
+                                                     BSTR* result) noexcept override {
+    return not_built(result);
+  }
+  HRESULT STDMETHODCALLTYPE get_SetHeaderFooter(BSTR*, BSTR*, Choice*, Choice*, Choice*,
+                                                BYTE* result) noexcept override {
+    return not_built(result);
+  }
+  HRESULT STDMETHODCALLTYPE get_ReplaceHeaderFooter(LONG*, VARIANT_BOOL*, BYTE*, BSTR*, BSTR*, BYTE*,
+                                                    VARIANT_BOOL*, VARIANT_BOOL*, VARIANT_BOOL*,
+                                                    VARIANT_BOOL*, VARIANT_BOOL*, VARIANT_BOOL*,
+                                                    VARIANT_BOOL*, BYTE*, BYTE* result) noexcept override {
+    return not_built(result);
+  }
+  HRESULT STDMETHODCALLTYPE get_CellCount(LONG* result) noexcept override { return not_built(result); }
+  HRESULT STDMETHODCALLTYPE get_CellText(LONG*, BSTR* result) noexcept override { return not_built(result); }
+
+ private:
+  // Members work on references of their own: while an office call waits, the host may run a member that
+  // replaces the fields.
+  AutomationObject application() const { return application_; }
+  AutomationObject document() const { return active_document_; }
+
+  // The selection of the active document's window.
+  AutomationObject selection() const;
+
+  // Moves the selection to the start or end of a unit (a wdUnits value), without selecting.
+  HRESULT move_to_edge(VARIANT* result, const wchar_t* prefix, const wchar_t* edge, LONG unit) noexcept;
+
+  AutomationObject application_;
+  AutomationObject active_document_;
+};
+
+}  // namespace zorboffice
