@@ -86,7 +86,7 @@ std::wstring text_of(REFGUID id) {
 std::wstring with_words(const wchar_t* pattern, const Words& words) {
   std::wstring text(pattern);
   for (const auto& [word, meaning] : words) {
-    if (const std::size_t position = text.find(word); position != text.npos) {
+    if (const std::size_t position = text.find(word); position != std::wstring::npos) {
       text.replace(position, word.size(), meaning);
     }
   }
@@ -141,7 +141,7 @@ LONG write(Entry& entry) {
   entry.key_is_foreign = disposition == REG_OPENED_EXISTING_KEY;
   if (entry.has_data) {
     status = RegSetValueExW(key, entry.value, 0, REG_SZ, reinterpret_cast<const BYTE*>(entry.data.c_str()),
-                            static_cast<DWORD>((entry.data.size() + 1) * sizeof(wchar_t)));
+                            static_cast<DWORD>(entry.data.size() + 1) * static_cast<DWORD>(sizeof(wchar_t)));
   }
   RegCloseKey(key);
   return status;

@@ -3,8 +3,9 @@
 #include <windows.h>
 #include <oleauto.h>
 
+#include <algorithm>
 #include <cstdio>
-#include <fstream>
+#include <memory>
 #include <stdexcept>
 #include <string>
 #include <vector>
@@ -27,6 +28,8 @@ constexpr Class classes[] = {
     {zorb_outlook_class, zorb_outlook_interface_id, zorb_outlook_events_id},
     {open_writer_class, open_writer_interface_id, open_writer_events_id},
 };
+
+using File = std::unique_ptr<FILE, int (*)(FILE*)>;
 
 constexpr UINT hidden_interface = TYPEFLAG_FHIDDEN | TYPEFLAG_FNONEXTENSIBLE | TYPEFLAG_FDISPATCHABLE;
 constexpr UINT default_interface_flags = hidden_interface | TYPEFLAG_FDUAL | TYPEFLAG_FOLEAUTOMATION;
@@ -163,6 +166,47 @@ void add_class(ICreateTypeLib2* library, ITypeInfo* dispatch, const Class& row) 
   add_implementation(coclass.get(), 0, members.get(), IMPLTYPEFLAG_FDEFAULT);
   add_implementation(coclass.get(), 1, events.get(), IMPLTYPEFLAG_FDEFAULT | IMPLTYPEFLAG_FSOURCE);
   require(coclass->LayOut(), "LayOut");
+  // Adding the interfaces marks the class as dispatchable in some implementations; only interfaces are.
+  require(coclass->SetTypeFlags(class_flags), "SetTypeFlags");
+}
+
+std::size_t count_of_true_defaults() {
+  std::size_t count = 0;
+  for (const Class& row : classes) {
+    for (const Member& member : row.published.members) {
+      count +=
+          std::count_if(member.parameters.begin(), member.parameters.end(), [](const Parameter& parameter) {
+            return parameter.type == VT_BOOL && parameter.default_value == VARIANT_TRUE;
+          });
+    }
+  }
+  return count;
+}
+
+// Wine's writer keeps 8 bits of a flag's default, so that true (-1) becomes 255. In the file such a default
+// is one 32-bit word: the top bit, 5 bits of type, 26 bits of value. Replaces all of them, or none where the
+// platform wrote them whole.
+void mend_true_defaults(const std::wstring& path) {
+  constexpr DWORD inline_flag = 0x80000000 | (VT_BOOL << 26);
+  constexpr DWORD damaged = inline_flag | 0xFF;
+  constexpr DWORD whole = inline_flag | 0xFFFF;
+  File file(_wfopen(path.c_str(), L"r+b"), std::fclose);
+  if (!file) throw std::runtime_error("opening the type library failed");
+  if (std::fseek(file.get(), 0, SEEK_END) != 0) throw std::runtime_error("reading the type library failed");
+  std::vector<DWORD> words(static_cast<std::size_t>(std::ftell(file.get())) / sizeof(DWORD));
+  std::rewind(file.get());
+  if (std::fread(words.data(), sizeof(DWORD), words.size(), file.get()) != words.size()) {
+    throw std::runtime_error("reading the type library failed");
+  }
+  const auto found = static_cast<std::size_t>(std::count(words.begin(), words.end(), damaged));
+  if (found == 0) return;
+  if (found != count_of_true_defaults())
+    throw std::runtime_error("the defaults are not where they were expected");
+  std::replace(words.begin(), words.end(), damaged, whole);
+  std::rewind(file.get());
+  if (std::fwrite(words.data(), sizeof(DWORD), words.size(), file.get()) != words.size()) {
+    throw std::runtime_error("writing the type library failed");
+  }
 }
 
 void write_type_library(const std::wstring& path) {
@@ -181,8 +225,8 @@ void write_type_library(const std::wstring& path) {
 }
 
 void write_identifier(const std::wstring& folder, const wchar_t* name, const GUID& id) {
-  FILE* file = _wfopen((folder + name + L".guid").c_str(), L"wb");
-  if (!file || std::fwrite(&id, sizeof id, 1, file) != 1 || std::fclose(file) != 0) {
+  const File file(_wfopen((folder + name + L".guid").c_str(), L"wb"), std::fclose);
+  if (!file || std::fwrite(&id, sizeof id, 1, file.get()) != 1) {
     throw std::runtime_error("writing an identifier failed");
   }
 }
@@ -193,19 +237,20 @@ void write_identifier(const std::wstring& folder, const wchar_t* name, const GUI
 int wmain(int count, wchar_t** arguments) {
   using namespace zorboffice;
   if (count != 2) {
-    std::fputs("usage: write_type_library FOLDER\n", stderr);
+    (void)std::fputs("usage: write_type_library FOLDER\n", stderr);
     return 2;
   }
   const std::wstring folder = std::wstring(arguments[1]) + L"\\";
   try {
     require(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED), "CoInitializeEx");
     write_type_library(folder + L"ZORBOffice.tlb");
+    mend_true_defaults(folder + L"ZORBOffice.tlb");
     for (const Class& row : classes) {
       write_identifier(folder, row.published.default_interface, row.default_interface_id);
       write_identifier(folder, row.published.event_interface, row.event_interface_id);
     }
   } catch (const std::exception& failure) {
-    std::fprintf(stderr, "write_type_library: %s\n", failure.what());
+    (void)std::fprintf(stderr, "write_type_library: %s\n", failure.what());
     return 1;
   }
   return 0;

@@ -111,7 +111,7 @@ class Binder {
     return S_OK;
   }
 
-  HRESULT read(const Parameter& parameter, Binding& binding) {
+  HRESULT read(const Parameter& parameter, Binding& binding) const {
     if (!binding.given) return set_default(parameter, binding.cell.get());
     if (const HRESULT status = binding.argument.read(parameter.type, locale_, binding.cell.get());
         FAILED(status)) {

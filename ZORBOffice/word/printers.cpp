@@ -18,15 +18,15 @@ std::optional<Bstr> first_pdf_printer() {
   std::vector<PRINTER_INFO_4W> printers;
   DWORD count = 0;
   for (;;) {
-    DWORD bytes = static_cast<DWORD>(printers.size() * sizeof printers[0]);
+    auto bytes = static_cast<DWORD>(printers.size()) * static_cast<DWORD>(sizeof(PRINTER_INFO_4W));
     auto* buffer = reinterpret_cast<BYTE*>(printers.data());
     if (EnumPrintersW(installed, nullptr, level, buffer, bytes, &bytes, &count)) break;
     if (GetLastError() != ERROR_INSUFFICIENT_BUFFER) throw_hresult(HRESULT_FROM_WIN32(GetLastError()));
-    printers.resize(bytes / sizeof printers[0] + 1);
+    printers.resize(bytes / sizeof(PRINTER_INFO_4W) + 1);
   }
   for (DWORD i = 0; i < count; ++i) {
     const std::wstring_view name = printers[i].pPrinterName;
-    if (name.find(L"PDF") != name.npos) return Bstr(name);
+    if (name.find(L"PDF") != std::wstring_view::npos) return Bstr(name);
   }
   return std::nullopt;
 }
