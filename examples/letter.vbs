@@ -40,7 +40,6 @@ word.SaveDoc letter
 WScript.Echo "Saved " & letter
 If Not word.SaveDocAsPDF Then Fail "no printer's name contains PDF"
 Do While word.IsPrinting > 0
-  WScript.Sleep 50
 Loop
 WScript.Echo "Printed"
 

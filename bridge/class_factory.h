@@ -1,0 +1,43 @@
+// The two classes that clients can create, and the class objects that create them.
+#pragma once
+
+#include <windows.h>
+#include <oleauto.h>
+
+#include <array>
+
+struct ServedClass {
+  CLSID id;
+  const wchar_t* program_id;
+  const wchar_t* title;
+  const char* peer_name;
+};
+
+// Both identifiers are those that the programs themselves are known by: what a client has stored must find
+// the bridge.
+inline constexpr std::array<ServedClass, 2> kServedClasses = {{
+    {{0x000209ff, 0x0000, 0x0000, {0xc0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}},
+     L"Word.Application",
+     L"Word processor, answered by LibreOffice",
+     "word"},
+    {{0x82154420, 0x0fbf, 0x11d4, {0x83, 0x13, 0x00, 0x50, 0x04, 0x52, 0x6a, 0xb4}},
+     L"com.sun.star.ServiceManager",
+     L"Office suite's service manager, answered by LibreOffice",
+     "suite"},
+}};
+
+class ClassFactory final : public IClassFactory {
+ public:
+  explicit ClassFactory(const ServedClass& served) : served_(served) {}
+
+  STDMETHODIMP QueryInterface(REFIID iid, void** result) override;
+  // Class objects live as long as the process.
+  STDMETHODIMP_(ULONG) AddRef() override { return 2; }
+  STDMETHODIMP_(ULONG) Release() override { return 1; }
+  // Every creation is a session of its own; fails with the peer's HRESULT.
+  STDMETHODIMP CreateInstance(IUnknown* outer, REFIID iid, void** result) override;
+  STDMETHODIMP LockServer(BOOL) override { return S_OK; }
+
+ private:
+  const ServedClass& served_;
+};

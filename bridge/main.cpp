@@ -1,0 +1,98 @@
+// zorboffice_bridge: the COM local server of the bridge. See README.md for the whole picture.
+#include "peer.h"
+
+#include <cstdio>
+#include <cwchar>
+
+#include "call_error.h"
+#include "class_factory.h"
+#include "registration.h"
+#include "values.h"
+
+namespace {
+
+constexpr const char* kUsage =
+    "usage: zorboffice_bridge --register PORT   write the classes and the PDF printer for the peer at PORT\n"
+    "       zorboffice_bridge --unregister      remove them\n"
+    "       zorboffice_bridge --serve PORT      serve clients until the peer hangs up\n"
+    "       zorboffice_bridge --check           create a word processor as any client would\n";
+
+int fail(const char* text) {
+  std::fprintf(stderr, "zorboffice_bridge: %s\n", text);
+  return 1;
+}
+
+// Tells the peer what only this side of the border can see.
+void greet() {
+  Json printers = Json::array();
+  for (const std::wstring& name : local_printers()) printers.push_back(narrow(name));
+  const HDC screen = GetDC(nullptr);
+  const int dots_per_inch = GetDeviceCaps(screen, LOGPIXELSX);
+  ReleaseDC(nullptr, screen);
+  peer().ask({{"do", "hello"},
+              {"printers", printers},
+              {"pdf_printer", narrow(kPdfPrinter)},
+              {"screen", {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)}},
+              {"dots_per_inch", dots_per_inch}});
+}
+
+int serve(unsigned short port) {
+  // A client that comes while the server is still starting makes the platform start another one.
+  const HANDLE only = CreateMutexW(nullptr, TRUE, L"ZORBOffice bridge");
+  if (!only || GetLastError() == ERROR_ALREADY_EXISTS) return fail("already serving");
+  if (!peer().connect(port)) return fail("no peer at the port");
+  try {
+    greet();
+  } catch (const CallError&) {
+    return fail("the peer does not answer");
+  }
+  static ClassFactory factories[] = {ClassFactory(kServedClasses[0]), ClassFactory(kServedClasses[1])};
+  DWORD cookies[std::size(factories)] = {};
+  bool registered = true;
+  for (size_t index = 0; index < std::size(factories); ++index) {
+    registered &= SUCCEEDED(CoRegisterClassObject(kServedClasses[index].id, &factories[index],
+                                                  CLSCTX_LOCAL_SERVER, REGCLS_MULTIPLEUSE, &cookies[index]));
+  }
+  if (registered) {
+    std::puts("ready");
+    std::fflush(stdout);
+    peer().wait_until_gone();
+  }
+  for (const DWORD cookie : cookies) CoRevokeClassObject(cookie);
+  return registered ? 0 : fail("cannot register the class objects");
+}
+
+int check() {
+  IDispatch* application = nullptr;
+  const HRESULT result = CoCreateInstance(kServedClasses[0].id, nullptr, CLSCTX_LOCAL_SERVER, IID_IDispatch,
+                                          reinterpret_cast<void**>(&application));
+  if (FAILED(result)) {
+    std::fprintf(stderr, "zorboffice_bridge: cannot create the word processor: 0x%08lX\n", result);
+    return 1;
+  }
+  application->Release();
+  return 0;
+}
+
+}  // namespace
+
+int wmain(int count, wchar_t** arguments) {
+  const std::wstring_view command = count > 1 ? arguments[1] : L"";
+  const auto port = static_cast<unsigned short>(count > 2 ? std::wcstoul(arguments[2], nullptr, 10) : 0);
+  if (FAILED(CoInitializeEx(nullptr, COINIT_MULTITHREADED))) return fail("cannot start COM");
+  int result = 2;
+  if (command == L"--register" && port != 0) {
+    result = register_server(port) ? 0 : fail("cannot write the registry");
+  } else if (command == L"--unregister") {
+    unregister_server();
+    result = 0;
+  } else if (command == L"--serve" && port != 0) {
+    result = serve(port);
+  } else if (command == L"--check") {
+    result = check();
+  } else {
+    std::fputs(kUsage, stderr);
+  }
+  CoUninitialize();
+  return result;
+}

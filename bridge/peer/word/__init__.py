@@ -1,0 +1,1 @@
+"""The word processor's object model over LibreOffice."""

@@ -1,0 +1,228 @@
+"""The selection of a document's window: LibreOffice's view cursor with the word processor's rules."""
+
+import uno
+
+from word.binding import (
+    BAD_PARAMETER,
+    COMMAND_FAILED,
+    NO_CLIPBOARD,
+    NO_SELECTION,
+    WordError,
+    WordObject,
+)
+from word.movement import CELL, CHARACTER, LINE, Movement, PARAGRAPH, SENTENCE, WORD
+from word.ranges import Paragraphs, Range
+from word.story import cell_of, distance, text_cursor, units
+
+GO_TO_LINE = 3
+GO_TO_ABSOLUTE, GO_TO_RELATIVE, GO_TO_PREVIOUS, GO_TO_LAST = 1, 2, 3, -1
+
+# What LibreOffice's paragraphs can hold of the characters below the blank; one of the others makes it drop a
+# whole insertion.
+TYPED = {code: None for code in range(32)} | {9: "\t", 10: "\n", 12: "\f", 13: "\r"}
+
+
+class Selection(WordObject):
+    DEFAULT = "Text"
+
+    def __init__(self, document):
+        self._document = document
+        self._model = document.model
+        self._cursor = self._model.getCurrentController().getViewCursor()
+        self._movement = Movement(document, self._cursor)
+        self._moves_start = False  # Which end an extension moves.
+        self._exact = None  # The selected positions, where they hold a mark that no cursor can span.
+
+    # Text
+
+    @property
+    def Text(self):
+        if self._exact:
+            return self._document.story().text(*self._exact)
+        if self._cursor.isCollapsed():  # An insertion point reads as the character behind it.
+            following = text_cursor(self._cursor)
+            if not following.isEndOfParagraph() and following.goRight(1, True):
+                if (character := following.getString()) != "\n":
+                    return character
+            return self._document.story().text(self.Start, self.Start + 1)
+        text = self._cursor.getString()
+        return text if "\n" not in text else self._document.story().text(self.Start, self.End)
+
+    @Text.setter
+    def Text(self, value: str):
+        start = self.Start
+        self.select(start, self.replace(start, self.End, value))
+
+    @property
+    def Start(self):
+        return self._exact[0] if self._exact else self._document.story().position(self._cursor.getStart())
+
+    @property
+    def End(self):
+        return self._exact[1] if self._exact else self._document.story().position(self._cursor.getEnd())
+
+    @property
+    def Range(self):
+        return Range(self._document, self.Start, self.End)
+
+    @property
+    def Paragraphs(self):
+        return Paragraphs(self._document, self.Start, self.End)
+
+    def TypeText(self, Text: str):
+        """Put text in place of the selection; the insertion point stands behind it afterwards."""
+        self._forget()
+        if not self._cursor.isCollapsed():
+            self._cursor.setString("")
+        self._insert(Text)
+
+    def Cut(self):
+        if self._cursor.isCollapsed():
+            raise WordError(NO_SELECTION)
+        self._dispatch(".uno:Cut")
+
+    def Paste(self):
+        clipboard = self._document.session.service("com.sun.star.datatransfer.clipboard.SystemClipboard")
+        if clipboard.getContents() is None:
+            raise WordError(NO_CLIPBOARD)
+        self._dispatch(".uno:Paste")
+
+    # Movement
+
+    def Move(self, Unit: int = CHARACTER, Count: int = 1):
+        self._forget()
+        self._collapse(at_end=Count > 0)
+        return self._movement.advance(Unit, Count)
+
+    def MoveRight(self, Unit: int = CHARACTER, Count: int = 1, Extend: int = 0):
+        if Unit not in (CHARACTER, WORD, SENTENCE, CELL):
+            raise WordError(BAD_PARAMETER)
+        return abs(self._move(Unit, Count, Extend))
+
+    def MoveLeft(self, Unit: int = CHARACTER, Count: int = 1, Extend: int = 0):
+        if Unit not in (CHARACTER, WORD, SENTENCE, CELL):
+            raise WordError(BAD_PARAMETER)
+        return abs(self._move(Unit, -Count, Extend))
+
+    def StartOf(self, Unit: int = WORD, Extend: int = 0):
+        """Move to the beginning of a unit; the result is the number of characters moved, not above 0."""
+        self._forget()
+        target, end = self._movement.edge(Unit, self._cursor.getStart(), at_end=False), self._cursor.getEnd()
+        moved = distance(target, self._cursor.getStart())
+        self._cursor.gotoRange(target, False)
+        if Extend:
+            self._cursor.gotoRange(end, True)
+        return -moved
+
+    def EndOf(self, Unit: int = WORD, Extend: int = 0):
+        """Move to the end of a unit, which for a paragraph lies behind its mark, but never out of a cell."""
+        self._forget()
+        start, end = self._cursor.getStart(), self._cursor.getEnd()
+        target = self._movement.edge(Unit, end, at_end=True)
+        moved = distance(end, target)
+        self._cursor.gotoRange(target, False)
+        if Unit == PARAGRAPH and not self._is_end_of_cell() and self._cursor.goRight(1, False):
+            moved += 1
+        if Extend:
+            target = self._cursor.getStart()
+            self._cursor.gotoRange(start, False)
+            self._cursor.gotoRange(target, True)
+        return moved
+
+    def GoTo(self, What: int = -1, Which: int = GO_TO_ABSOLUTE, Count: int = 1, Name: str = ""):
+        """Go to a line; other targets are not offered. A line beyond the last is the last."""
+        if What != GO_TO_LINE or Name:
+            raise WordError(BAD_PARAMETER)
+        self._forget()
+        if Which in (GO_TO_ABSOLUTE, GO_TO_LAST):
+            body = self._model.getText()
+            self._cursor.gotoRange(body.getEnd() if Which == GO_TO_LAST else body.getStart(), False)
+            Count -= 1
+        with self._document.laid_out():
+            lines = {GO_TO_LAST: 0, GO_TO_PREVIOUS: -Count}.get(Which, Count)
+            self._movement.advance(LINE, lines)
+            self._cursor.gotoStartOfLine(False)
+        return self.Range
+
+    # For the other objects of the document
+
+    def select(self, start, end):
+        """Select the text between two positions."""
+        first, last, is_whole = self._document.story().span(start, end)
+        self._cursor.gotoRange(first, False)
+        self._cursor.gotoRange(last, True)
+        self._exact = None if is_whole or start == end else (start, end)
+
+    def replace(self, start, end, text):
+        """Put text between two positions and return the position of its end; the selection stays."""
+        first, last, _ = self._document.story().span(start, end)
+        first.gotoRange(last, True)
+        first.setString("")
+        behind = units(self._model.getText().getString())
+        self._forget()
+        self._insert(text, first)
+        return start + units(self._model.getText().getString()) - behind
+
+    # Helpers
+
+    def _forget(self):
+        self._exact = None
+
+    def _insert(self, text, cursor=None):
+        cursor = cursor or self._cursor
+        self._document.touch()
+        text = text.replace("\r\n", "\r").replace("\n", "\r").replace("\v", "\n").translate(TYPED)
+        text = text.encode("utf-16-le", "surrogatepass").decode("utf-16-le", "replace")
+        for index, piece in enumerate(text.split("\f")):
+            if index:
+                cursor.getText().insertString(cursor, "\r", False)
+                text_cursor(cursor).BreakType = uno.Enum("com.sun.star.style.BreakType", "PAGE_BEFORE")
+            cursor.getText().insertString(cursor, piece, False)
+
+    def _dispatch(self, command):
+        self._forget()
+        helper = self._document.session.service("com.sun.star.frame.DispatchHelper")
+        frame = self._model.getCurrentController().getFrame()
+        done = helper.executeDispatch(frame, command, "", 0, ())
+        self._document.touch()
+        if done is None or done.State != 1:
+            raise WordError(COMMAND_FAILED)
+
+    def _collapse(self, at_end):
+        self._cursor.gotoRange(self._cursor.getEnd() if at_end else self._cursor.getStart(), False)
+
+    def _is_end_of_cell(self):
+        if not cell_of(self._cursor):
+            return False
+        cursor = text_cursor(self._cursor)
+        return not cursor.goRight(1, False) or not cell_of(cursor)
+
+    def _move(self, unit, count, extend):
+        """Move by units, backward for a negative count; the result is the signed number of units."""
+        exact = self._exact
+        self._forget()
+        if count == 0:
+            return 0
+        forward = count > 0
+        if extend:
+            return self._extend(unit, count)
+        # Leaving a selection at its edge is the first of the characters to move.
+        left = not self._cursor.isCollapsed() or exact is not None
+        self._collapse(at_end=forward)
+        if not left or unit != CHARACTER:
+            return self._movement.advance(unit, count)
+        step = 1 if forward else -1
+        return step + self._movement.advance(unit, count - step)
+
+    def _extend(self, unit, count):
+        if self._cursor.isCollapsed():
+            self._moves_start = count < 0
+        start, end = self._cursor.getStart(), self._cursor.getEnd()
+        fixed, moving = (end, start) if self._moves_start else (start, end)
+        self._cursor.gotoRange(moving, False)
+        moved = self._movement.advance(unit, count)
+        target = self._cursor.getStart()
+        self._moves_start = fixed.getText().compareRegionStarts(target, fixed) > 0
+        self._cursor.gotoRange(fixed, False)
+        self._cursor.gotoRange(target, True)
+        return moved

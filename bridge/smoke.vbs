@@ -1,0 +1,104 @@
+' Drives both object models of the bridge as any client would. Its last line is "smoke.vbs: done" only if every check
+' held: Wine's script host ends without a word, and with exit code 0, at an error that nobody handles.
+'   cscript //nologo smoke.vbs FOLDER PDF-FOLDER      (Windows paths; the second as given to script/bridge)
+Option Explicit
+Dim folder, pdf_folder, files, fails, smiley, third, word, document, selection, texts, each_one
+Dim manager, desktop, component
+folder = WScript.Arguments(0) & "\"
+pdf_folder = WScript.Arguments(1) & "\"
+Set files = CreateObject("Scripting.FileSystemObject")
+fails = 0
+
+Sub Check(what, got, wanted)
+  If got = wanted Then Exit Sub
+  fails = fails + 1
+  WScript.Echo Replace("FAILED " & what & ": '" & got & "', not '" & wanted & "'", vbCr, "|")
+End Sub
+
+' A failure is checked by its number: CheckFailure goes right behind the call, under On Error Resume Next.
+Sub CheckFailure(what, wanted)
+  Dim number
+  number = Err.Number
+  Err.Clear
+  Check what, CStr(number), CStr(wanted)
+End Sub
+
+Sub Remove(path)
+  If files.FileExists(path) Then files.DeleteFile path
+End Sub
+
+' The word processor: write.
+Remove folder & "smoke.docx"
+Remove pdf_folder & "smoke.pdf"
+With CreateObject("MSScriptControl.ScriptControl")
+  .Language = "JScript"
+  smiley = .Eval("'\uD83D\uDE00'")
+End With
+third = "Third" & vbVerticalTab & "broken"
+Set word = CreateObject("Word.Application")
+Check "new session", word.Documents.Count, 0
+Set document = word.Documents.Add("")
+Set selection = document.ActiveWindow.Selection
+selection.TypeText "First line" & vbCr & "Second " & smiley & vbCrLf & third
+Check "typed", document.Range().Text, "First line" & vbCr & "Second " & smiley & vbCr & third & vbCr
+Check "range's default member", document.Range(6, 13), "line" & vbCr & "Se"
+Check "insertion point reads on", selection.Text, vbCr
+
+' Move, select, cut and paste.
+selection.GoTo 3, 1, 2
+Check "second line", selection.Start, 11
+Check "right", selection.MoveRight(1, 3, 0), 3
+Check "extend", selection.MoveRight(1, 2, 1) & selection.Text, "2on"
+selection.TypeText "ON"
+Check "start of paragraph", selection.StartOf(4, 0), -5
+Check "end of paragraph", selection.EndOf(4, 0), 10
+Check "move two paragraphs back", selection.Move(4, -2), -2
+selection.Paragraphs(1).Range.Select
+Check "selected paragraph", selection.Text, "First line" & vbCr
+selection.Cut
+selection.Move 6, 1
+selection.Paste
+Check "cut and pasted", document.Range().Text, "SecONd " & smiley & vbCr & third & "First line" & vbCr & vbCr
+
+' Save, print, close, open again.
+document.SaveAs folder & "smoke.docx"
+Check "name", document.Name, "smoke.docx"
+word.ActivePrinter = "ZORBOffice PDF"
+document.PrintOut
+Check "PDF", files.OpenTextFile(pdf_folder & "smoke.pdf").Read(5), "%PDF-"
+document.Close 0, 1, False
+Check "closed", word.Documents.Count, 0
+Set document = word.Documents.Open(UCase(folder) & "SMOKE.docx")
+texts = ""
+For Each each_one In document.Sections
+  texts = texts & each_one.Range.Text
+Next
+Check "opened again", texts, "SecONd " & smiley & vbCr & third & "First line" & vbCr & vbCr
+
+' The suite: load with an empty array, write, read, close.
+Set manager = CreateObject("com.sun.star.ServiceManager")
+Set desktop = manager.createInstance("com.sun.star.frame.Desktop")
+Set component = desktop.loadComponentFromURL("private:factory/swriter", "_blank", 0, Array())
+component.getText().setString "In the suite " & smiley
+Check "suite's text", component.GetText().GetString(), "In the suite " & smiley
+component.close True
+
+' Failures come as the office programs number them.
+On Error Resume Next
+each_one = document.NoSuchMember
+CheckFailure "unknown member", 438
+document.Range 0, 9999
+CheckFailure "range beyond the end", 4608
+word.Documents.Open folder & "missing.docx"
+CheckFailure "missing file", 5174
+word.ActivePrinter = ""
+document.PrintOut
+CheckFailure "no printer", 5216
+component.getText
+CheckFailure "disposed component", -2147352567
+manager.Quit
+CheckFailure "no member of the suite", 438
+word.Quit
+each_one = word.Version
+CheckFailure "after Quit", 462
+If fails = 0 Then WScript.Echo "smoke.vbs: done"
