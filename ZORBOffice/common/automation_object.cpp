@@ -17,6 +17,9 @@ struct Identifiers {
   std::array<DISPID, max_arguments> named_arguments;
 };
 
+// What an earlier call left in the thread's error information must not describe the next one's failure.
+void forget_earlier_failure() { SetErrorInfo(0, nullptr); }
+
 // Every name that reaches an office application is looked up here.
 Identifiers look_up(IDispatch* object, const wchar_t* name, Arguments arguments) {
   std::array<wchar_t*, max_arguments + 1> names;
@@ -27,6 +30,7 @@ Identifiers look_up(IDispatch* object, const wchar_t* name, Arguments arguments)
     if (argument.name()) names[count++] = const_cast<wchar_t*>(argument.name());
   }
   ids.fill(DISPID_UNKNOWN);
+  forget_earlier_failure();
   const HRESULT result =
       object->GetIDsOfNames(IID_NULL, names.data(), count, LOCALE_USER_DEFAULT, ids.data());
   if (result == DISP_E_UNKNOWNNAME && ids[0] != DISPID_UNKNOWN) {
@@ -40,8 +44,7 @@ Identifiers look_up(IDispatch* object, const wchar_t* name, Arguments arguments)
 }
 
 void invoke(IDispatch* object, DISPID member, WORD flags, DISPPARAMS& parameters, VARIANT* result) {
-  // What an earlier call left in the thread's error information must not describe this one's failure.
-  SetErrorInfo(0, nullptr);
+  forget_earlier_failure();
   EXCEPINFO information{};
   UINT argument = 0;
   const HRESULT status = object->Invoke(member, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, result,
@@ -72,6 +75,7 @@ void invoke(IDispatch* object, const wchar_t* name, WORD flags, Arguments argume
 }  // namespace
 
 AutomationObject AutomationObject::create(const wchar_t* program_id) {
+  forget_earlier_failure();
   CLSID class_id;
   check(CLSIDFromProgID(program_id, &class_id));
   AutomationObject created;
@@ -149,6 +153,7 @@ Enumerator::Enumerator(const AutomationObject& collection) {
 bool Enumerator::next(Result& element) const {
   Result following;
   ULONG fetched = 0;
+  forget_earlier_failure();
   const HRESULT status = elements_->Next(1, following.receive(), &fetched);
   check(status);
   if (status != S_OK || fetched != 1) return false;

@@ -1,0 +1,163 @@
+// Class factories, the life of an instance, and every slot of every vtable called as a host would.
+#include <algorithm>
+#include <cstring>
+#include <regex>
+
+#include "members.h"
+#include "support/message_boxes.h"
+
+namespace outside {
+namespace {
+
+TEST(Factory, gives_a_class_its_own_interfaces_and_refuses_the_rest) {
+  void* made = &made;
+  EXPECT_EQ((call<REFCLSID, REFIID, void**>("DllGetClassObject", guid(library_id), IID_IUnknown, &made)),
+            CLASS_E_CLASSNOTAVAILABLE);
+  EXPECT_EQ(made, nullptr);
+  for (const ClassIds& ids : classes) {
+    for (const ClassIds& other : classes) {
+      ComPtr<IUnknown> instance;
+      const HRESULT code = factory(ids)->CreateInstance(nullptr, guid(other.interface_id), &instance);
+      EXPECT_EQ(code, &ids == &other ? S_OK : E_NOINTERFACE);
+      EXPECT_EQ(instance.Get() != nullptr, code == S_OK);
+    }
+    made = &made;
+    EXPECT_EQ(factory(ids)->CreateInstance(factory(ids).Get(), IID_IUnknown, &made), CLASS_E_NOAGGREGATION);
+    EXPECT_EQ(made, nullptr);
+  }
+}
+
+TEST(Library, stays_while_an_instance_or_a_lock_lives) {
+  for (const ClassIds& ids : classes) {
+    EXPECT_EQ(call("DllCanUnloadNow"), S_OK);
+    auto instance = create(ids);
+    EXPECT_EQ(call("DllCanUnloadNow"), S_FALSE);
+    instance.Reset();
+    EXPECT_EQ(call("DllCanUnloadNow"), S_OK);
+    EXPECT_EQ(factory(ids)->LockServer(TRUE), S_OK);
+    EXPECT_EQ(call("DllCanUnloadNow"), S_FALSE);
+    EXPECT_EQ(factory(ids)->LockServer(FALSE), S_OK);
+    EXPECT_EQ(call("DllCanUnloadNow"), S_OK);
+  }
+}
+
+TEST(Instance, is_one_object_behind_all_its_interfaces) {
+  for (const ClassIds& ids : classes) {
+    const GUID own = guid(ids.interface_id);
+    ComPtr<IUnknown> identity, one, back;
+    ComPtr<ISupportErrorInfo> errors;
+    ASSERT_EQ(create(ids).As(&identity), S_OK);
+    for (const GUID& id : {IID_IUnknown, IID_IDispatch, own, IID_ISupportErrorInfo}) {
+      ASSERT_EQ(identity->QueryInterface(id, &one), S_OK);
+      ASSERT_EQ(one->QueryInterface(IID_IUnknown, &back), S_OK);
+      EXPECT_EQ(back, identity);
+      EXPECT_EQ(one->QueryInterface(IID_ISupportErrorInfo, &errors), S_OK);
+    }
+    EXPECT_EQ(errors->InterfaceSupportsErrorInfo(own), S_OK);
+  }
+}
+
+size_t busy_heap_blocks() {
+  HANDLE heaps[64];
+  size_t blocks = 0;
+  for (DWORD i = 0, count = std::min<DWORD>(GetProcessHeaps(64, heaps), 64); i < count; ++i)
+    for (PROCESS_HEAP_ENTRY entry = {}; HeapWalk(heaps[i], &entry);)
+      blocks += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0;
+  return blocks;
+}
+
+// The number of the next free handle: it rises with handles that stay open. (Wine counts no handles.)
+size_t next_handle() {
+  const HANDLE handle = CreateEventW(nullptr, FALSE, FALSE, nullptr);
+  CloseHandle(handle);
+  return reinterpret_cast<size_t>(handle) / 4;
+}
+
+TEST(Instances, come_and_go_ten_thousand_times_without_a_trace) {
+  for (const ClassIds& ids : classes) {
+    for (int i = 0; i < 10'000; ++i) create(ids);
+    const size_t blocks = busy_heap_blocks(), handles = next_handle();
+    for (int i = 0; i < 10'000; ++i) create(ids);
+    EXPECT_EQ(busy_heap_blocks(), blocks) << ids.name;
+    EXPECT_LT(next_handle(), handles + 100) << ids.name;
+    EXPECT_EQ(call("DllCanUnloadNow"), S_OK);
+  }
+}
+
+// The types of a row's parameters, by reference or not, and of its result.
+std::vector<VARTYPE> types_of(const std::wstring& signature) {
+  static const std::wregex pattern(L" (&?)(short|long|byte|flag|string|variant)");
+  std::vector<VARTYPE> types;
+  for (std::wsregex_iterator i(signature.begin(), signature.end(), pattern), end; i != end; ++i)
+    for (const auto& [type, name] : type_names)
+      if ((*i)[2] == name) types.push_back(type | ((*i)[1].length() ? VT_BYREF : 0));
+  return types;
+}
+
+// Calls a slot with zeros and empty strings, or null references, and lets it write its result to `result`.
+HRESULT call_slot(IDispatch* instance, size_t slot, std::vector<VARTYPE> types, bool references,
+                  void* result) {
+  VARIANT targets[16] = {}, values[16] = {}, *arguments[16] = {}, code = {};
+  const VARIANT untouched[16] = {};
+  types.back() |= VT_BYREF;
+  for (size_t i = 0; i < types.size(); ++i) {
+    arguments[i] = &values[i];
+    if (types[i] & VT_BYREF) V_BYREF(&values[i]) = references ? &targets[i] : nullptr;
+  }
+  V_BYREF(&values[types.size() - 1]) = result;
+  const HRESULT called = DispCallFunc(instance, (7 + slot) * sizeof(void*), CC_STDCALL, VT_ERROR,
+                                      types.size(), types.data(), arguments, &code);
+  EXPECT_EQ(std::memcmp(targets, untouched, sizeof targets), 0) << "an argument was changed";
+  return FAILED(called) ? called : V_ERROR(&code);
+}
+
+// Whether zero or the empty text or variant, and for a number no byte more, was written over 0xCD.
+bool is_failure_value(VARTYPE type, const unsigned char* result) {
+  if (type == VT_BSTR && result[0] != 0xCD) return !SysStringLen(*reinterpret_cast<const BSTR*>(result));
+  const size_t size = type == VT_UI1 ? 1 : type == VT_I4 ? 4 : 2;
+  return std::all_of(result, result + size, [](unsigned char byte) { return byte == 0; }) &&
+         (type == VT_VARIANT || result[size] == 0xCD);
+}
+
+TEST(Slots, answer_a_host_that_started_nothing) {
+  CLSID office;
+  ASSERT_NE(CLSIDFromProgID(L"Word.Application", &office), S_OK) << "an office program would start";
+  MessageBoxes boxes;
+  for (const ClassIds& ids : classes) {
+    const auto members = members_of(ids);
+    ComPtr<IDispatch> instance;
+    ASSERT_EQ(create(ids)->QueryInterface(guid(ids.interface_id), &instance), S_OK);
+    // From the last slot to the first: the last error is read on a fresh instance, then again after failures.
+    for (size_t i = members.size() * 2; i-- > 0;) {
+      const bool references = i >= members.size();
+      const size_t slot = i % members.size();
+      const std::string fresh = members[slot].fresh;
+      const bool unbuilt = fresh == Member::not_built, raises = fresh == Member::raised;
+      const auto types = types_of(members[slot].signature);
+      SCOPED_TRACE(std::wstring(ids.name) + L" " + members[slot].signature +
+                   (references ? L"" : L" by null"));
+      ComPtr<IErrorInfo> error;
+      BSTR described = nullptr;
+      std::string shown;
+      alignas(VARIANT) unsigned char result[sizeof(VARIANT)];
+      std::memset(result, 0xCD, sizeof result);
+      SetErrorInfo(0, nullptr);
+      const HRESULT code = call_slot(instance.Get(), slot, types, references, result);
+      if (GetErrorInfo(0, &error) == S_OK) error->GetDescription(&described);
+      for (const SeenBox& box : boxes.take()) shown += box.text;
+      EXPECT_TRUE(is_failure_value(types.back(), result));
+      // A null reference is a failure like any other, or refused at once.
+      if (references || code != E_POINTER) {
+        EXPECT_EQ(code, static_cast<HRESULT>(unbuilt ? 0x800A01BD : raises ? 0x800A01A8 : 0));
+        const auto raised = unbuilt ? L"Object doesn't support this action" : L"Object required";
+        EXPECT_EQ(take(described), unbuilt || raises ? raised : L"");
+        EXPECT_EQ(references ? shown : shown.empty() ? "" : fresh, unbuilt || raises ? "" : fresh);
+      }
+      EXPECT_EQ(call_slot(instance.Get(), slot, types, references, nullptr), E_POINTER);
+      EXPECT_TRUE(boxes.take().empty());
+    }
+  }
+}
+
+}  // namespace
+}  // namespace outside

@@ -1,0 +1,195 @@
+#include "fake_object.h"
+
+#include <wrl/client.h>
+
+#include <algorithm>
+
+#include "text.h"
+
+namespace {
+
+// One list of names for all objects: equal names have equal identifiers, which start at 1.
+std::vector<std::wstring> names;
+
+DISPID identifier_of(const std::wstring& name) {
+  if (name == L"_NewEnum") return DISPID_NEWENUM;
+  const auto found = std::ranges::find(names, name);
+  const auto identifier = static_cast<DISPID>(found - names.begin()) + 1;
+  if (found == names.end()) names.push_back(name);
+  return identifier;
+}
+
+std::string name_of(DISPID identifier) {
+  if (identifier == DISPID_VALUE) return "[value]";
+  if (identifier == DISPID_NEWENUM) return "[newenum]";
+  return utf8(names.at(identifier - 1));
+}
+
+const std::map<WORD, const char*> invocations = {{DISPATCH_METHOD | DISPATCH_PROPERTYGET, "get "},
+                                                 {DISPATCH_METHOD, "call "},
+                                                 {DISPATCH_PROPERTYPUT, "put "}};
+const std::map<VARTYPE, const char*> kinds = {{VT_UI1, "ui1 "},  {VT_I2, "i2 "}, {VT_I4, "i4 "},
+                                              {VT_INT, "int "},  {VT_R4, "r4 "}, {VT_R8, "r8 "},
+                                              {VT_BOOL, "bool "}};
+
+std::string known_as(const auto& table, WORD key) {
+  const auto found = table.find(key);
+  return found == table.end() ? "[" + std::to_string(key) + "] " : found->second;
+}
+
+// The failure under way: a fill-in function is called after Invoke has returned and takes no context.
+Failure due;
+
+HRESULT WINAPI fill_in(EXCEPINFO* info) {
+  info->scode = due.scode;
+  info->wCode = due.code;
+  info->bstrDescription = SysAllocString(due.description);
+  return S_OK;
+}
+
+// Counts references and, with its office, living objects.
+template <class Interface>
+class Recorded : public Interface {
+ public:
+  Recorded(FakeOffice& office, std::string name) : office_(office), name_(std::move(name)) { ++office_.live; }
+  virtual ~Recorded() { --office_.live; }
+
+  HRESULT WINAPI QueryInterface(REFIID iid, void** object) override {
+    const bool known = iid == IID_IUnknown || iid == __uuidof(Interface);
+    *object = known ? this : nullptr;
+    if (known) this->AddRef();
+    return known ? S_OK : E_NOINTERFACE;
+  }
+  ULONG WINAPI AddRef() override { return ++references_; }
+  ULONG WINAPI Release() override {
+    const ULONG left = --references_;
+    if (left == 0) delete this;
+    return left;
+  }
+
+ protected:
+  FakeOffice& office_;
+  const std::string name_;
+
+ private:
+  ULONG references_ = 1;
+};
+
+class FakeEnumerator final : public Recorded<IEnumVARIANT> {
+ public:
+  FakeEnumerator(FakeOffice& office, const std::string& name, std::vector<const char*> items)
+      : Recorded(office, name), items_(std::move(items)) {}
+
+  HRESULT WINAPI Next(ULONG count, VARIANT* values, ULONG* fetched) override {
+    if (const HRESULT failed = office_.step("next " + name_); FAILED(failed)) return failed;
+    ULONG given = 0;
+    for (; given < count && position_ < items_.size(); ++given)
+      values[given] = _variant_t(office_.make(items_[position_++]), false).Detach();
+    if (fetched) *fetched = given;
+    return given == count ? S_OK : S_FALSE;
+  }
+  HRESULT WINAPI Skip(ULONG) override { return E_NOTIMPL; }
+  HRESULT WINAPI Reset() override { return E_NOTIMPL; }
+  HRESULT WINAPI Clone(IEnumVARIANT**) override { return E_NOTIMPL; }
+
+ private:
+  const std::vector<const char*> items_;
+  size_t position_ = 0;
+};
+
+class FakeObject final : public Recorded<IDispatch> {
+ public:
+  using Recorded::Recorded;
+
+  HRESULT WINAPI GetTypeInfoCount(UINT* count) override { return *count = 0, S_OK; }
+  HRESULT WINAPI GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+  HRESULT WINAPI GetIDsOfNames(REFIID iid, LPOLESTR* asked, UINT count, LCID, DISPID* identifiers) override {
+    if (iid != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
+    for (UINT i = 0; i < count; ++i) identifiers[i] = identifier_of(asked[i]);
+    const auto refused = office_.refused.find(name_ + "." + utf8(asked[0]));
+    if (refused == office_.refused.end()) return S_OK;
+    identifiers[0] = DISPID_UNKNOWN;
+    return refused->second;
+  }
+  HRESULT WINAPI Invoke(DISPID member, REFIID, LCID, WORD flags, DISPPARAMS* parameters, VARIANT* result,
+                        EXCEPINFO* info, UINT*) override {
+    const std::string own_name = name_of(member), path = name_ + "." + own_name;
+    std::string arguments, put_value;
+    const auto add = [&](const std::string& text) { arguments += (arguments.empty() ? "(" : ", ") + text; };
+    // Named arguments come first in the array, positional ones after them from the last to the first.
+    const UINT named = parameters->cNamedArgs;
+    for (UINT i = parameters->cArgs; i-- > named;) add(describe(parameters->rgvarg[i]));
+    for (UINT i = 0; i < named; ++i) {
+      const DISPID name = parameters->rgdispidNamedArgs[i];
+      const std::string value = "=" + describe(parameters->rgvarg[i]);
+      if (name == DISPID_PROPERTYPUT) put_value = value;
+      if (name != DISPID_PROPERTYPUT) add(name_of(name) + ":" + value);
+    }
+    if (!arguments.empty()) arguments += ")";
+    const auto& known = office_.answers;
+    auto found = known.find(path + arguments);
+    if (found == known.end()) found = known.find(path);
+    Answer answer = found == known.end() ? Answer{} : found->second;
+    if (!answer.object && answer.value.vt == VT_EMPTY && office_.objects.contains(own_name))
+      answer.object = own_name.c_str();
+
+    const std::string line = known_as(invocations, flags) + path + arguments + put_value;
+    if (const HRESULT failed = office_.step(line, info); FAILED(failed)) return failed;
+    if (answer.effect) answer.effect(*parameters);
+    if (!result) return S_OK;
+    _variant_t given = answer.value;
+    if (answer.object) given = _variant_t(office_.make(answer.object), false);
+    if (member == DISPID_NEWENUM)
+      given = _variant_t(static_cast<IUnknown*>(new FakeEnumerator(office_, name_, answer.items)), false);
+    *result = given.Detach();
+    return S_OK;
+  }
+};
+
+}  // namespace
+
+IDispatch* FakeOffice::make(const std::string& name) { return new FakeObject(*this, name); }
+
+HRESULT FakeOffice::step(const std::string& line, EXCEPINFO* info) {
+  log.push_back(line);
+  if (log.size() != fail_at) return S_OK;
+  due = failure;
+  // Outside of Invoke a failure's text travels as the thread's error object.
+  if (const auto* text = info ? due.error_info : due.description) {
+    Microsoft::WRL::ComPtr<ICreateErrorInfo> description;
+    Microsoft::WRL::ComPtr<IErrorInfo> error;
+    CreateErrorInfo(&description);
+    description->SetDescription(const_cast<wchar_t*>(text));
+    description.As(&error);
+    SetErrorInfo(0, error.Get());
+  }
+  if (due.result != DISP_E_EXCEPTION) return due.result;
+  if (!info) return static_cast<HRESULT>(due.scode);
+  *info = {};
+  if (due.deferred) {
+    info->pfnDeferredFillIn = fill_in;
+  } else {
+    fill_in(info);
+  }
+  return due.result;
+}
+
+std::string describe(const VARIANT& value) {
+  VARIANT copy = {}, text = {};
+  if (V_ISBYREF(&value)) {
+    if (!value.byref) return "&null";
+    if (value.vt == (VT_BYREF | VT_VARIANT)) return "&variant " + describe(*value.pvarVal);
+    VariantCopyInd(&copy, const_cast<VARIANT*>(&value));
+    return "&" + describe(_variant_t(copy, false));
+  }
+  if (value.vt == VT_EMPTY) return "empty";
+  if (value.vt == VT_NULL) return "null";
+  if (value.vt == VT_ERROR && value.scode == DISP_E_PARAMNOTFOUND) return "missing";
+  if (value.vt == VT_DISPATCH) return value.pdispVal ? "object" : "nothing";
+  if (value.vt == VT_BSTR) return "bstr \"" + utf8({value.bstrVal, SysStringLen(value.bstrVal)}) + "\"";
+  copy = value;
+  if (copy.vt == VT_BOOL) copy.vt = VT_I2;  // shows every bit: a flag must be 0 or -1
+  VariantChangeTypeEx(&text, &copy, LOCALE_INVARIANT, 0, VT_BSTR);
+  const _variant_t owner(text, false);
+  return known_as(kinds, value.vt) + utf8({text.bstrVal, SysStringLen(text.bstrVal)});
+}

@@ -1,0 +1,59 @@
+// Recording automation objects that stand where the office application's objects would.
+#pragma once
+
+#include <windows.h>
+#include <comutil.h>
+
+#include <functional>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+// How a step fails: with `result` as it stands or, where that is DISP_E_EXCEPTION, with what the other fields
+// say; `deferred` leaves them to the EXCEPINFO's fill-in function. `error_info` is the thread's IErrorInfo
+// text.
+struct Failure {
+  HRESULT result = S_OK;
+  DWORD scode = 0;
+  WORD code = 0;
+  const wchar_t* description = nullptr;
+  bool deferred = false;
+  const wchar_t* error_info = nullptr;
+};
+
+// What a member answers: `value`, or a new object of the name `object`. An enumerator goes through objects of
+// the names `items`. `effect` sees the arguments first and may write to those passed by reference.
+struct Answer {
+  _variant_t value = {};
+  const char* object = nullptr;
+  std::vector<const char*> items = {};
+  std::function<void(const DISPPARAMS&)> effect = {};
+};
+
+// The office application as a test sees it: what its objects answer, and what was asked of them. Members
+// without an answer return an empty variant. Must outlive its objects.
+class FakeOffice {
+ public:
+  // The members that answer a new object of their own name, whatever object they belong to.
+  std::set<std::string> objects;
+  // Other answers by "Object.Member(arguments as logged)" or, for any arguments, "Object.Member".
+  std::map<std::string, Answer> answers;
+  // The members, as "Object.Member", whose names are not found, with what the look-up returns.
+  std::map<std::string, HRESULT> refused;
+  // The step that fails with `failure`, counted in lines of the log from 1; 0 for none.
+  size_t fail_at = 0;
+  Failure failure = {DISP_E_EXCEPTION, 0x800A1735, 0, L"No such member."};
+  // One line a step: "get|call|put|next|create Object.Member(arguments)".
+  std::vector<std::string> log;
+  // Objects and enumerators that somebody still holds.
+  int live = 0;
+
+  // A new object called `name`; the caller owns the reference.
+  IDispatch* make(const std::string& name);
+  // Logs `line`; returns S_OK, or the failure that is due, described in `info` where there is one.
+  HRESULT step(const std::string& line, EXCEPINFO* info = nullptr);
+};
+
+// `value` as the log shows it: by-reference mark, kind and value, such as `&bstr "C:\a.docx"` or `bool -1`.
+std::string describe(const VARIANT& value);

@@ -1,0 +1,134 @@
+// Failures as a host is told of them: number and description of everything that can go wrong in a call.
+#include "word_test.h"
+
+namespace {
+
+struct Told {
+  Failure failure;
+  const char* message;
+};
+
+const Told told[] = {
+    {{DISP_E_EXCEPTION, 0x800A1735, 0, L"Own text."}, "5941 :  Own text."},
+    {{DISP_E_EXCEPTION, 0x80070057, 0, L"Own text."}, "-2147024809 :  Own text."},
+    {{DISP_E_EXCEPTION, 0, 4605, L"Own text."}, "4605 :  Own text."},
+    {{DISP_E_EXCEPTION, 0x800A1735, 0, L"Filled in.", true}, "5941 :  Filled in."},
+    {{DISP_E_EXCEPTION, 0x800A1735, 0, nullptr, false, L"From the object."}, "5941 :  From the object."},
+    {{DISP_E_EXCEPTION, 0x800A01A8}, "424 :  Object required"},
+    {{DISP_E_EXCEPTION, 0x80041FFF}, "-2147213313 :  Automation error"},
+    {{E_FAIL, 0, 0, nullptr, false, L"From the object."}, "-2147467259 :  From the object."},
+    {{static_cast<HRESULT>(0x80041FFF)}, "-2147213313 :  Automation error"},
+    {{static_cast<HRESULT>(0x800A01B8)}, "440 :  Automation error"},
+    {{E_FAIL}, "-2147467259 :  Call failed."},  // in the words of the system, which here is Wine
+    {{E_INVALIDARG}, "5 :  Invalid procedure call or argument"},
+    {{DISP_E_OVERFLOW}, "6 :  Overflow"},
+    {{E_OUTOFMEMORY}, "7 :  Out of memory"},
+    {{DISP_E_BADINDEX}, "9 :  Subscript out of range"},
+    {{DISP_E_ARRAYISLOCKED}, "10 :  This array is fixed or temporarily locked"},
+    {{DISP_E_TYPEMISMATCH}, "13 :  Type mismatch"},
+    {{E_ACCESSDENIED}, "70 :  Permission denied"},
+    {{STG_E_PATHNOTFOUND}, "76 :  Path not found"},
+    {{REGDB_E_CLASSNOTREG}, "429 :  ActiveX component can't create object"},
+    {{MK_E_UNAVAILABLE}, "429 :  ActiveX component can't create object"},
+    {{CO_E_CLASSSTRING}, "429 :  ActiveX component can't create object"},
+    {{CO_E_APPNOTFOUND}, "429 :  ActiveX component can't create object"},
+    {{CO_E_SERVER_EXEC_FAILURE}, "429 :  ActiveX component can't create object"},
+    {{E_NOINTERFACE}, "430 :  Class doesn't support Automation"},
+    {{STG_E_FILENOTFOUND}, "432 :  File name or class name not found during Automation operation"},
+    {{MK_E_CANTOPENFILE}, "432 :  File name or class name not found during Automation operation"},
+    {{DISP_E_UNKNOWNNAME}, "438 :  Object doesn't support this property or method"},
+    {{DISP_E_MEMBERNOTFOUND}, "438 :  Object doesn't support this property or method"},
+    {{E_NOTIMPL}, "445 :  Object doesn't support this action"},
+    {{DISP_E_NONAMEDARGS}, "446 :  Object doesn't support named arguments"},
+    {{DISP_E_UNKNOWNLCID}, "447 :  Object doesn't support current locale setting"},
+    {{DISP_E_PARAMNOTFOUND}, "448 :  Named argument not found"},
+    {{DISP_E_PARAMNOTOPTIONAL}, "449 :  Argument not optional"},
+    {{DISP_E_BADPARAMCOUNT}, "450 :  Wrong number of arguments or invalid property assignment"},
+    {{DISP_E_NOTACOLLECTION}, "451 :  Object not a collection"},
+    {{DISP_E_BADVARTYPE}, "458 :  Variable uses an Automation type not supported"},
+    {{static_cast<HRESULT>(0x800706BA)}, "462 :  The remote server machine does not exist or is unavailable"},
+};
+
+using Failures = WordTest;
+
+TEST_F(Failures, HaveTheirNumberAndDescription) {
+  make_ready();
+  for (const auto& row : told) {
+    log();
+    word_.fail_at = 1;
+    word_.failure = row.failure;
+    expect(L"PrintDoc", {1}, "empty", std::string("Print Doc ") + row.message);
+  }
+}
+
+TEST_F(Failures, OfTheLookUpComeBeforeTheCall) {
+  make_ready();
+  word_.refused["Document.PrintOut"] = DISP_E_UNKNOWNNAME;
+  expect(L"PrintDoc", {1}, "empty", "Print Doc 438 :  Object doesn't support this property or method");
+  EXPECT_EQ(log(), "");
+}
+
+TEST_F(Failures, DoNotTakeTheTextOfAnEarlierOne) {
+  for (const bool refused : {false, true}) {
+    make_ready();
+    word_.fail_at = 1;
+    word_.failure = {DISP_E_EXCEPTION, 1, 0, L"Own.", false, L"Stale."};
+    expect(L"Cut", {}, "empty");
+    log();
+    word_.failure = {static_cast<HRESULT>(0x80041FFF)};
+    if (refused) word_.refused["Document.PrintOut"] = word_.failure.result;
+    expect(L"PrintDoc", {1}, "empty", "Print Doc -2147213313 :  Automation error");
+  }
+}
+
+TEST_F(Failures, ReachTheHostUnderTheirNumber) {
+  make_ready();
+  for (const auto& [failure, outcome] :
+       {std::pair{Failure{DISP_E_TYPEMISMATCH}, "raised 800A000D Type mismatch"},
+        {{E_ACCESSDENIED}, "raised 800A0046 Permission denied"},
+        {{DISP_E_EXCEPTION, 0, 4605, L"Own."}, "raised 800A11FD Own."}}) {
+    log();
+    word_.fail_at = 1;
+    word_.failure = failure;
+    expect(L"IsPrinting", {}, outcome);
+  }
+}
+
+// The office application answers what its object model does not have.
+TEST_F(Failures, OfNonsensicalAnswersKeepTheEarlierState) {
+  const _variant_t nothing(static_cast<IDispatch*>(nullptr));
+  const std::string unset = "Object variable or With block variable not set";
+  _variant_t null;
+  null.vt = VT_NULL;
+  const struct {
+    const char* path;
+    _variant_t answer;
+    const wchar_t* member;
+    Arguments arguments;
+    std::string result, message;
+  } rows[] = {
+      {"Application.Documents", nothing, L"OpenDoc", {L"a"}, "ui1 0", "OpenDoc " + unset},
+      {"Documents.Open", nothing, L"OpenDoc", {L"a"}, "ui1 0", "OpenDoc " + unset},
+      {"Documents.Open", 7, L"OpenDoc", {L"a"}, "ui1 0", "OpenDoc Object required"},
+      {"Documents.Add", {}, L"CreateDoc", {}, "ui1 0", "Create Doc Object required"},
+      {"ActiveWindow.Selection", L"", L"Paste", {}, "empty", "Paste Object required"},
+      {"Selection.Text", null, L"SelectionText", {}, "bstr \"\"", "SelectionText Type mismatch"},
+      {"Range2.Text", null, L"ReadText", {0, 0}, "bstr \"\"", "ReadText : Type mismatch"},
+      {"Application.BackgroundSavingStatus", 40000, L"IsPrinting", {}, "raised 800A0006 Overflow", ""},
+      {"Documents.Count", L"many", L"StopWord", {}, "raised 800A000D Type mismatch", ""},
+  };
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.path);
+    make_ready();
+    const auto usual = word_.answers;
+    word_.answers[row.path] = {row.answer};
+    expect(row.member, row.arguments, row.result, row.message);
+    log();
+    expect(L"SaveDoc", {}, "empty");
+    expect(L"SetActive", {true}, "ui1 1");
+    EXPECT_EQ(log(), "call Document.Save | call Application.Activate");
+    word_.answers = usual;
+  }
+}
+
+}  // namespace

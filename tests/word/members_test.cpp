@@ -1,0 +1,194 @@
+// What every member asks of the word processor, and how it fails at each of its steps.
+#include <regex>
+#include <set>
+
+#include "support/text.h"
+#include "word_test.h"
+
+namespace {
+
+// A member's call on a control with an open document, its result and the steps that it takes. The steps that
+// reach an object as `reached` has it are left out.
+struct Row {
+  const wchar_t* member;
+  std::vector<_variant_t> arguments;
+  const char* result;
+  std::string steps;
+  std::map<std::string, Answer> answers = {};
+};
+
+const std::map<std::string, std::string> reached = {
+    {"\\w+ Documents\\.", "get Application.Documents | "},
+    {"\\w+ Options\\.", "get Application.Options | "},
+    {"\\w+ System\\.", "get Application.System | "},
+    {"\\w+ Selection\\.", "get Document.ActiveWindow | get ActiveWindow.Selection | "}};
+
+const std::string unnumbered =
+    "create Word.Application | put Options.AutoFormatAsYouTypeApplyNumberedLists=bool 0";
+const std::string placed =
+    "create Word.Application | put Application.WindowState=i4 0 | get Application.CentimetersToPoints(r4 3)"
+    " | put Application.Left=r4 85.5 | put Application.Top=i2 1 | get Application.Version";
+const std::string resized =
+    placed +
+    " | get System.HorizontalResolution | get Application.CentimetersToPoints(r4 3)"
+    " | get System.VerticalResolution | get Application.CentimetersToPoints(r4 0.5)"
+    " | get Application.PixelsToPoints(r4 1280) | get Application.PixelsToPoints(r4 1024)"
+    " | call Application.Resize(Width:=r4 874.5, Height:=r4 753.75)";
+const std::string activated = " | call Application.Activate", quit = "call Application.Quit";
+
+const Row session[] = {
+    {L"Start", {}, "ui1 1", unnumbered},
+    {L"Start", {false}, "ui1 1", unnumbered},
+    {L"Start", {true}, "ui1 1", resized},
+    {L"Start", {true}, "ui1 1", placed, {{"Application.Version", {L"85"}}}},
+    {L"Start", {true}, "ui1 1", resized, {{"Application.Version", {L"18.0"}}}},
+    {L"Start", {true}, "ui1 1", resized, {{"Application.Version", {L""}}}},
+    {L"SetVisible", {1}, "ui1 1", "put Application.Visible=bool -1" + activated},
+    {L"SetVisible", {false}, "ui1 1", "put Application.Visible=bool 0" + activated},
+    {L"SetActive", {false}, "ui1 1", "call Application.Activate"},
+    {L"SetScreenUpdating", {true}, "ui1 1", "put Application.ScreenUpdating=bool -1"},
+    {L"SetScreenUpdating", {false}, "ui1 1", "put Application.ScreenUpdating=bool 0"},
+    {L"StopWord", {true}, "empty", quit},
+    {L"StopWord", {}, "empty", "get Documents.Count | " + quit},
+    {L"StopWord", {false}, "empty", "get Documents.Count", {{"Documents.Count", {1}}}},
+    {L"GetDefaultPaths", {2}, R"(bstr "C:\Documents")", "get Options.DefaultFilePath(&i2 2)"},
+};
+
+const std::string finalised =
+    "call Document.UpdateStyles | put Document.UpdateStylesOnOpen=bool 0"
+    " | put Document.AttachedTemplate=bstr \"\"";
+const std::string printers = R"(get Application.ActivePrinter | put Application.ActivePrinter=bstr "Kept")";
+const std::string statuses =
+    "get Application.BackgroundPrintingStatus | get Application.BackgroundSavingStatus";
+
+const Row documents[] = {
+    {L"OpenDoc", {L"C:\\b.docx"}, "ui1 1", R"(get Documents.Open(&bstr "C:\b.docx"))"},
+    {L"CreateDoc", {}, "ui1 1", R"(get Documents.Add(Template:=&bstr ""))"},
+    {L"CreateDoc", {L"a.dotx"}, "ui1 1", R"(get Documents.Add(Template:=&bstr "a.dotx"))"},
+    {L"FinaliseDoc", {}, "empty", finalised},
+    {L"SaveDoc", {}, "empty", "call Document.Save"},
+    {L"SaveDoc", {L""}, "empty", "call Document.Save"},
+    {L"SaveDoc", {L"c.docx"}, "empty", R"(call Document.SaveAs(&bstr "c.docx"))"},
+    {L"SaveDocAsPDF", {}, "bool 0", printers},
+    {L"CloseDoc", {}, "empty", "call Document.Close(&i2 0, i4 1, bool 0)"},
+    {L"CloseDoc", {-1}, "empty", "call Document.Close(&i2 -1, i4 1, bool 0)"},
+    {L"PrintDoc", {2}, "empty", "call Document.PrintOut(Copies:=&i2 2)"},
+    {L"PrintDoc", {2, true}, "empty", "call Document.PrintOut(Copies:=&i2 2)"},
+    {L"IsPrinting", {}, "i2 2", statuses},
+};
+
+const std::string to_the_end =
+    "get Document.Range | get Range.Text | get Document.Range(i4 3, i4 10) | get Range.[value]";
+const std::string by_sections =
+    "get Document.Sections | get Sections.[newenum] | next Sections | get Section1.Range | get Range1.Text"
+    " | next Sections | get Section2.Range | get Range2.Text | next Sections | get Section3.Range"
+    " | get Range3.Text | next Sections";
+
+const std::string first_paragraph =
+    "get Selection.Paragraphs(i2 1) | get Paragraphs.Range | call Range.Select";
+
+const Row text[] = {
+    {L"SendText", {L"Dear \x20ac"}, "ui1 1", "call Selection.TypeText(bstr \"Dear \xe2\x82\xac\")"},
+    {L"ReadText", {2, 5}, R"(bstr "0123456789")", "get Document.Range(&i4 2, &i4 5) | get Range.Text"},
+    {L"ReadText", {3, 0}, R"(bstr "3456789")", to_the_end},
+    {L"ReadText", {0, 5}, R"(bstr "0123456789")", "get Document.Range(i2 1, i4 5) | get Range.Text"},
+    {L"ReadText", {-7, 1}, R"(bstr "0123456789")", "get Document.Range(i2 1, i4 1) | get Range.Text"},
+    {L"ReadText", {0, -1}, R"(bstr "one two three")", by_sections},
+    {L"SelectionText", {}, R"(bstr "chosen")", "get Selection.Text"},
+    {L"Cut", {}, "empty", "call Selection.Cut"},
+    {L"Paste", {}, "empty", "call Selection.Paste"},
+    {L"SelectParagraph", {}, "empty", first_paragraph},
+    {L"CursorLeft", {3}, "empty", "call Selection.MoveLeft(&i2 1, &i2 3, i2 0)"},
+    {L"CursorLeft", {3, 2, 1}, "empty", "call Selection.MoveLeft(&i2 2, &i2 3, int 1)"},
+    {L"CursorRight", {2}, "empty", "call Selection.MoveRight(&i2 1, &i2 2, i2 0)"},
+    {L"CursorRight", {2, 1, true}, "empty", "call Selection.MoveRight(&i2 1, &i2 2, bool -1)"},
+    {L"CursorStartOfParagraph", {}, "empty", "call Selection.StartOf(Unit:=i4 4, Extend:=i4 0)"},
+    {L"CursorStartOfCell", {}, "empty", "call Selection.StartOf(Unit:=i4 12, Extend:=i4 0)"},
+    {L"CursorEndOfCell", {}, "empty", "call Selection.EndOf(Unit:=i4 12, Extend:=i4 0)"},
+    {L"CursorEndOfParagraph", {}, "empty", "call Selection.EndOf(Unit:=i4 4, Extend:=i4 0)"},
+    {L"Move", {4, -2}, "empty", "call Selection.Move(&i2 4, &i2 -2)"},
+    {L"GotoLine", {7}, "bool -1", "call Selection.GoTo(What:=i4 3, Which:=i4 1, Count:=&i2 7)"},
+};
+
+// The messages of failure by member, where % is the failure's description, # its number and @ the first
+// argument. A member that is not here is silent, except for those that let the failure reach the host.
+const std::string messages =
+    "|SetVisible=SetVisible%|SetActive=Set Active %|SetScreenUpdating=Set Screen Updating %|"
+    "GetDefaultPaths=GetDefaultPaths %|OpenDoc=OpenDoc %|CreateDoc=Create Doc %|FinaliseDoc=Finalise %|"
+    "SaveDoc=Save Doc : % @|SaveDocAsPDF=Unable to print pdf : %|CloseDoc=Close Doc %|"
+    "PrintDoc=Print Doc # :  %|SendText=SendText %|ReadText=ReadText : %|SelectionText=SelectionText %|"
+    "Paste=Paste %|SelectParagraph=Select Paragraph %|CursorLeft=Cursor Left %|"
+    "CursorRight=Cursor Right %|CursorStartOfParagraph=CursorEndOfParagraph%|"
+    "CursorStartOfCell=CursorStartOfCell%|CursorEndOfCell=CursorEndOfCell%|"
+    "CursorEndOfParagraph=CursorEndOfParagraph%|Move=Move :%|";
+const std::set<std::wstring> raising = {L"StopWord", L"IsPrinting"};
+
+class Members : public WordTest, public testing::WithParamInterface<Row> {
+ protected:
+  Members() {
+    for (const auto& [path, answer] : row_.answers) word_.answers[path] = answer;
+    for (const auto& [step, way] : reached) steps_ = std::regex_replace(steps_, std::regex(step), way + "$&");
+  }
+
+  // Calls the row's member, which must fail as it promises for a failure of that number and description.
+  void expect_failure(const std::string& number, const std::string& scode, const std::string& description) {
+    const std::string first = row_.arguments.empty() ? "" : describe(row_.arguments[0]);
+    std::string message, result = row_.result;
+    if (const auto at = messages.find("|" + utf8(row_.member) + "="); at != std::string::npos) {
+      const auto from = messages.find('=', at) + 1;
+      message = messages.substr(from, messages.find('|', from) - from);
+    }
+    message = std::regex_replace(message, std::regex("%"), description);
+    message = std::regex_replace(message, std::regex("#"), number);
+    message =
+        std::regex_replace(message, std::regex("@"), std::regex_replace(first, std::regex("bstr |\""), ""));
+    result = std::regex_replace(result, std::regex(" .*"), result.starts_with("bstr") ? " \"\"" : " 0");
+    if (raising.contains(row_.member)) result = "raised " + scode + " " + description;
+    expect(row_.member, row_.arguments, result, message);
+    expect(L"GetLastErrorNumber", {}, "i4 0");
+    expect(L"GetLastErrorDescription", {}, "bstr \"\"");
+  }
+
+  const Row& row_ = GetParam();
+  std::string steps_ = row_.steps;
+};
+
+TEST_P(Members, TakeTheirSteps) {
+  make_ready();
+  expect(row_.member, row_.arguments, row_.result);
+  EXPECT_EQ(log(), steps_);
+}
+
+TEST_P(Members, StopAtTheStepThatFails) {
+  for (size_t step = 1, end = 0; end != std::string::npos; ++step) {
+    SCOPED_TRACE(step);
+    make_ready();
+    word_.fail_at = step;
+    expect_failure("5941", "800A1735", "No such member.");
+    end = steps_.find(" | ", end + 1);
+    EXPECT_EQ(log(), steps_.substr(0, end));
+    word_.fail_at = 0;
+    expect(L"SaveDoc", {}, "empty");
+    expect(L"SetActive", {true}, "ui1 1");
+    EXPECT_EQ(log(), "call Document.Save | call Application.Activate") << "the earlier state is kept";
+  }
+}
+
+TEST_P(Members, NeedTheApplicationOrTheDocument) {
+  const bool starts = steps_.starts_with("create");
+  word_.fail_at = starts ? 1 : 0;
+  expect_failure("424", "800A01A8", "Object required");
+  EXPECT_EQ(log(), starts ? "create Word.Application" : "");
+}
+
+void PrintTo(const Row& row, std::ostream* out) { *out << row.steps; }
+
+std::string name_of(const testing::TestParamInfo<Row>& row) {
+  return utf8(row.param.member) + std::to_string(row.index);
+}
+
+INSTANTIATE_TEST_SUITE_P(Session, Members, testing::ValuesIn(session), name_of);
+INSTANTIATE_TEST_SUITE_P(Documents, Members, testing::ValuesIn(documents), name_of);
+INSTANTIATE_TEST_SUITE_P(Text, Members, testing::ValuesIn(text), name_of);
+
+}  // namespace

@@ -1,0 +1,92 @@
+// Printing: the host's messages, the owner of a message box and the system's printers.
+#include "word_test.h"
+
+namespace {
+
+using Printing = WordTest;
+
+std::vector<std::string>* heard = nullptr;
+constexpr UINT once = WM_APP, restless = WM_APP + 1;
+
+LRESULT CALLBACK hear(HWND window, UINT message, WPARAM word, LPARAM value) {
+  if (message == once) heard->push_back("message");
+  if (message == restless) PostMessageW(window, restless, 0, 0);
+  return DefWindowProcW(window, message, word, value);
+}
+
+HWND make_window() {
+  HWND window = CreateWindowExW(0, L"Static", L"Host", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 200, 100,
+                                nullptr, nullptr, nullptr, nullptr);
+  SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(hear));
+  return window;
+}
+
+TEST_F(Printing, LetsTheHostsMessagesRunOnceAfterwards) {
+  make_ready();
+  heard = &word_.log;
+  const HWND window = make_window();
+  for (const UINT last : {once, restless}) {
+    PostMessageW(window, once, 0, 0);
+    PostQuitMessage(7);
+    PostMessageW(window, last, 0, 0);
+    expect(L"PrintDoc", {1}, "empty");
+    EXPECT_EQ(log(), std::string("call Document.PrintOut(Copies:=&i2 1) | message") +
+                         (last == once ? " | message" : ""));
+    MSG left = {};
+    PeekMessageW(&left, nullptr, WM_QUIT, WM_QUIT, PM_REMOVE);
+    EXPECT_EQ(left.message, UINT{WM_QUIT}) << "the host must still end";
+    EXPECT_EQ(left.wParam, 7u);
+  }
+  DestroyWindow(window);
+}
+
+TEST_F(Printing, MessageBoxesBelongToTheActiveWindow) {
+  const HWND window = make_window();
+  SetActiveWindow(window);
+  call(L"PrintDoc", {1});
+  const auto boxes = boxes_.take();
+  DestroyWindow(window);
+  ASSERT_EQ(boxes.size(), 1u);
+  EXPECT_EQ(boxes[0].owner, window);
+}
+
+// Wine reads the list of printers from the registry at each request.
+class Printers {
+ public:
+  explicit Printers(std::vector<std::wstring> names) : names_(std::move(names)) {
+    for (const auto& name : names_)
+      RegSetKeyValueW(HKEY_LOCAL_MACHINE, (key + name).c_str(), L"Name", REG_SZ, name.c_str(),
+                      static_cast<DWORD>((name.size() + 1) * sizeof(wchar_t)));
+  }
+  ~Printers() {
+    for (const auto& name : names_) RegDeleteTreeW(HKEY_LOCAL_MACHINE, (key + name).c_str());
+  }
+
+ private:
+  inline static const std::wstring key = L"System\\CurrentControlSet\\Control\\Print\\Printers\\";
+  const std::vector<std::wstring> names_;
+};
+
+TEST_F(Printing, ToPdfTakesTheFirstPrinterOfThatName) {
+  const std::string read = "get Application.ActivePrinter",
+                    restored = R"(put Application.ActivePrinter=bstr "Kept")";
+  const std::string printed =
+      read + R"( | put Application.ActivePrinter=bstr "!d PDF out" | call Document.PrintOut | )" + restored;
+  make_ready();
+  {
+    const Printers printers({L"!a plain", L"!b pdf", L"!c Pdf"});
+    expect(L"SaveDocAsPDF", {}, "bool 0");
+    EXPECT_EQ(log(), read + " | " + restored);
+  }
+  const Printers printers({L"!a plain", L"!b pdf", L"!d PDF out", L"!e PDF"});
+  expect(L"SaveDocAsPDF", {}, "bool -1");
+  EXPECT_EQ(log(), printed);
+  for (size_t step = 1, end = 0; end != std::string::npos; ++step) {
+    word_.fail_at = step;
+    expect(L"SaveDocAsPDF", {}, "bool 0", "Unable to print pdf : No such member.");
+    end = printed.find(" | ", end + 1);
+    EXPECT_EQ(log(), printed.substr(0, end));
+  }
+}
+
+}  // namespace
