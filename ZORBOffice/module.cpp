@@ -1,12 +1,15 @@
 #include "ZORBOffice/module.h"
 
 #include <atomic>
+#include <new>
 
 namespace zorboffice {
 namespace {
 
 HMODULE own_module = nullptr;
 std::atomic<long> references = 0;
+// Apart from the references: a host that unlocks too often must not unload the code of a living instance.
+std::atomic<long> locks = 0;
 
 }  // namespace
 
@@ -17,6 +20,7 @@ std::wstring module_path() {
   std::wstring path(MAX_PATH, L'\0');
   for (;;) {
     const DWORD length = GetModuleFileNameW(own_module, path.data(), static_cast<DWORD>(path.size()));
+    if (length == 0) throw std::bad_alloc();
     if (length < path.size()) {
       path.resize(length);
       return path;
@@ -28,8 +32,8 @@ std::wstring module_path() {
 ModuleReference::ModuleReference() noexcept { ++references; }
 ModuleReference::~ModuleReference() { --references; }
 
-void lock_module(bool lock) noexcept { references += lock ? 1 : -1; }
+void lock_module(bool lock) noexcept { locks += lock ? 1 : -1; }
 
-bool can_unload_module() noexcept { return references == 0; }
+bool can_unload_module() noexcept { return references == 0 && locks <= 0; }
 
 }  // namespace zorboffice

@@ -26,6 +26,7 @@ class ModuleReference {
 // IClassFactory::LockServer.
 void lock_module(bool lock) noexcept;
 
+// Whether nothing keeps the library loaded.
 bool can_unload_module() noexcept;
 
 }  // namespace zorboffice

@@ -2,6 +2,7 @@
 
 #include <olectl.h>
 
+#include <algorithm>
 #include <initializer_list>
 #include <string>
 #include <string_view>
@@ -152,39 +153,53 @@ bool is_absent(LONG status) { return status == ERROR_FILE_NOT_FOUND || status ==
 LONG remove_value(const Entry& entry) {
   HKEY key;
   LONG status = RegOpenKeyExW(HKEY_LOCAL_MACHINE, entry.key.c_str(), 0, KEY_WRITE, &key);
-  if (status == ERROR_SUCCESS) {
-    status = RegDeleteValueW(key, entry.value);
-    RegCloseKey(key);
-  }
-  return is_absent(status) ? ERROR_SUCCESS : status;
+  if (status != ERROR_SUCCESS) return status;
+  status = RegDeleteValueW(key, entry.value);
+  RegCloseKey(key);
+  return status;
 }
 
-// Deletes the key if nothing is left in it. Returns whether the key is gone.
-bool remove_if_empty(const std::wstring& name) {
-  HKEY key;
-  const LONG opened = RegOpenKeyExW(HKEY_LOCAL_MACHINE, name.c_str(), 0, KEY_READ, &key);
-  if (opened != ERROR_SUCCESS) return is_absent(opened);
+bool is_empty(HKEY key) {
   DWORD keys = 1;
   DWORD values = 1;
   RegQueryInfoKeyW(key, nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values, nullptr, nullptr,
                    nullptr, nullptr);
-  RegCloseKey(key);
-  return keys == 0 && values == 0 && RegDeleteKeyW(HKEY_LOCAL_MACHINE, name.c_str()) == ERROR_SUCCESS;
+  return keys == 0 && values == 0;
 }
 
 // Removes the key and its parents up to the classes' root, as far as nothing is left in them.
-void remove_empty_keys(std::wstring name) {
-  while (name.size() >= ARRAYSIZE(classes_root) && remove_if_empty(name))
-    name.resize(name.find_last_of(L'\\'));
+LONG remove_empty_keys(std::wstring name) {
+  for (; name.size() >= ARRAYSIZE(classes_root); name.resize(name.find_last_of(L'\\'))) {
+    HKEY key;
+    LONG status = RegOpenKeyExW(HKEY_LOCAL_MACHINE, name.c_str(), 0, KEY_READ, &key);
+    if (is_absent(status)) continue;
+    if (status != ERROR_SUCCESS) return status;
+    const bool empty = is_empty(key);
+    RegCloseKey(key);
+    if (!empty) break;
+    status = RegDeleteKeyW(HKEY_LOCAL_MACHINE, name.c_str());
+    if (status != ERROR_SUCCESS) return status;
+  }
+  return ERROR_SUCCESS;
+}
+
+bool is_written(const Entry& entry) {
+  return entry.has_data && RegGetValueW(HKEY_LOCAL_MACHINE, entry.key.c_str(), entry.value, RRF_RT_REG_SZ,
+                                        nullptr, nullptr, nullptr) == ERROR_SUCCESS;
+}
+
+LONG remove(const Entry& entry) {
+  const LONG status = entry.has_data ? remove_value(entry) : ERROR_SUCCESS;
+  if (status != ERROR_SUCCESS && !is_absent(status)) return status;
+  return entry.key_is_foreign ? ERROR_SUCCESS : remove_empty_keys(entry.key);
 }
 
 // Goes on after a failure, and returns the first one.
 LONG remove(std::span<const Entry> list) {
   LONG first_failure = ERROR_SUCCESS;
   for (std::size_t i = list.size(); i-- > 0;) {
-    const LONG status = list[i].has_data ? remove_value(list[i]) : ERROR_SUCCESS;
+    const LONG status = remove(list[i]);
     if (first_failure == ERROR_SUCCESS) first_failure = status;
-    if (!list[i].key_is_foreign) remove_empty_keys(list[i].key);
   }
   return first_failure;
 }
@@ -194,6 +209,8 @@ LONG remove(std::span<const Entry> list) {
 HRESULT register_library() noexcept {
   try {
     std::vector<Entry> list = entries();
+    // An earlier registration goes first, so that a failure half-way leaves nothing of it either.
+    if (std::ranges::any_of(list, is_written)) remove(list);
     for (std::size_t i = 0; i < list.size(); ++i) {
       if (const LONG status = write(list[i]); status != ERROR_SUCCESS) {
         remove(std::span<const Entry>(list).first(i + 1));

@@ -1,6 +1,7 @@
-// Stands in for parts of the compiler's run-time that would be half of the library's size: the terminate handler that prints
-// the exception's demangled type (there is no console to print to), and the exceptions with a text of their own (strings and
-// vectors of this library can only ever be refused memory, and the member frame knows one answer to that).
+// Stands in for parts of the compiler's run-time that would be half of the library's size: the terminate
+// handler that prints the exception's demangled type (there is no console to print to), and the exceptions
+// with a text of their own (the strings and vectors of this library can only ever be refused memory, and the
+// member frame knows one answer to that).
 #include <cstdlib>
 #include <new>
 

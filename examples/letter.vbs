@@ -2,7 +2,7 @@
 '   cscript letter.vbs TEMPLATE FOLDER
 ' leaves letter.docx in FOLDER, and prints the letter to the first printer whose name contains "PDF".
 
-Dim word, template, folder, letter, text
+Dim word, template, folder, letter, text, started
 
 If WScript.Arguments.Count <> 2 Then Fail "usage: cscript letter.vbs TEMPLATE FOLDER"
 template = WScript.Arguments(0)
@@ -39,7 +39,9 @@ WScript.Echo "Read back: " & Len(text) & " characters"
 word.SaveDoc letter
 WScript.Echo "Saved " & letter
 If Not word.SaveDocAsPDF Then Fail "no printer's name contains PDF"
+started = Timer
 Do While word.IsPrinting > 0
+  If Abs(Timer - started) > 120 Then Fail "the printing does not end"
 Loop
 WScript.Echo "Printed"
 

@@ -193,7 +193,9 @@ void mend_true_defaults(const std::wstring& path) {
   File file(_wfopen(path.c_str(), L"r+b"), std::fclose);
   if (!file) throw std::runtime_error("opening the type library failed");
   if (std::fseek(file.get(), 0, SEEK_END) != 0) throw std::runtime_error("reading the type library failed");
-  std::vector<DWORD> words(static_cast<std::size_t>(std::ftell(file.get())) / sizeof(DWORD));
+  const long size = std::ftell(file.get());
+  if (size < 0) throw std::runtime_error("reading the type library failed");
+  std::vector<DWORD> words(static_cast<std::size_t>(size) / sizeof(DWORD));
   std::rewind(file.get());
   if (std::fread(words.data(), sizeof(DWORD), words.size(), file.get()) != words.size()) {
     throw std::runtime_error("reading the type library failed");
@@ -204,7 +206,8 @@ void mend_true_defaults(const std::wstring& path) {
     throw std::runtime_error("the defaults are not where they were expected");
   std::replace(words.begin(), words.end(), damaged, whole);
   std::rewind(file.get());
-  if (std::fwrite(words.data(), sizeof(DWORD), words.size(), file.get()) != words.size()) {
+  if (std::fwrite(words.data(), sizeof(DWORD), words.size(), file.get()) != words.size() ||
+      std::fflush(file.get()) != 0) {
     throw std::runtime_error("writing the type library failed");
   }
 }
@@ -226,7 +229,7 @@ void write_type_library(const std::wstring& path) {
 
 void write_identifier(const std::wstring& folder, const wchar_t* name, const GUID& id) {
   const File file(_wfopen((folder + name + L".guid").c_str(), L"wb"), std::fclose);
-  if (!file || std::fwrite(&id, sizeof id, 1, file.get()) != 1) {
+  if (!file || std::fwrite(&id, sizeof id, 1, file.get()) != 1 || std::fflush(file.get()) != 0) {
     throw std::runtime_error("writing an identifier failed");
   }
 }

@@ -54,8 +54,12 @@ void invoke(IDispatch* object, DISPID member, WORD flags, DISPPARAMS& parameters
 }
 
 // Named arguments stand before the positional ones, which stand last to first.
-void invoke(IDispatch* object, const wchar_t* name, WORD flags, Arguments arguments, VARIANT* result) {
-  if (!object) throw_runtime_error(runtime_error::object_required);
+void invoke(const AutomationObject& holder, const wchar_t* name, WORD flags, Arguments arguments,
+            VARIANT* result) {
+  if (!holder) throw_runtime_error(runtime_error::object_required);
+  // Counted: while the call waits, the holder may let go of the object.
+  const ComPtr<IDispatch> held(holder.dispatch());
+  IDispatch* object = held.get();
   if (arguments.size() > max_arguments) throw_hresult(DISP_E_BADPARAMCOUNT);
   Identifiers identifiers = look_up(object, name, arguments);
   std::array<VARIANT, max_arguments> values;
@@ -83,22 +87,28 @@ AutomationObject AutomationObject::create(const wchar_t* program_id) {
   return created;
 }
 
+const AutomationObject& AutomationObject::typed() const {
+  if (!object_) throw_runtime_error(runtime_error::object_variable_not_set);
+  return *this;
+}
+
 Result AutomationObject::get_with(const wchar_t* name, Arguments arguments) const {
   Result result;
-  invoke(object_.get(), name, DISPATCH_METHOD | DISPATCH_PROPERTYGET, arguments, result.receive());
+  invoke(*this, name, DISPATCH_METHOD | DISPATCH_PROPERTYGET, arguments, result.receive());
   return result;
 }
 
 void AutomationObject::call_with(const wchar_t* name, Arguments arguments) const {
-  invoke(object_.get(), name, DISPATCH_METHOD, arguments, nullptr);
+  invoke(*this, name, DISPATCH_METHOD, arguments, nullptr);
 }
 
 void AutomationObject::put(const wchar_t* name, const Argument& value) const {
   if (!object_) throw_runtime_error(runtime_error::object_required);
+  const ComPtr<IDispatch> held(object_);
   VARIANT stored = value.value();
   DISPID property_put = DISPID_PROPERTYPUT;
   DISPPARAMS parameters{&stored, &property_put, 1, 1};
-  invoke(object_.get(), look_up(object_.get(), name, {}).member, DISPATCH_PROPERTYPUT, parameters, nullptr);
+  invoke(held.get(), look_up(held.get(), name, {}).member, DISPATCH_PROPERTYPUT, parameters, nullptr);
 }
 
 AutomationObject Result::object() const {
@@ -135,6 +145,9 @@ Bstr Result::text() const {
 LONG Result::int32() const { return V_I4(&converted_to(VT_I4).get()); }
 SHORT Result::int16() const { return V_I2(&converted_to(VT_I2).get()); }
 float Result::single() const { return V_R4(&converted_to(VT_R4).get()); }
+bool Result::flag() const {
+  return value_.type() != VT_NULL && V_BOOL(&converted_to(VT_BOOL).get()) != VARIANT_FALSE;
+}
 
 Enumerator::Enumerator(const AutomationObject& collection) {
   if (!collection) throw_runtime_error(runtime_error::object_required);

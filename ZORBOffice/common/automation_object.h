@@ -42,8 +42,13 @@ class AutomationObject {
   template <class Visit>
   void for_each(Visit&& visit) const;
 
+  // This object; throws "Object variable … not set" where there is none. Without it, an operation on no
+  // object throws "Object required", as it does for a variable without a type.
+  const AutomationObject& typed() const;
+
   explicit operator bool() const { return static_cast<bool>(object_); }
-  IDispatch* dispatch() const { return object_.get(); }
+  bool operator==(const AutomationObject& other) const { return dispatch() == other.dispatch(); }
+  IDispatch* dispatch() const { return object_.get(); }  // not counted
 
  private:
   Result get_with(const wchar_t* name, std::initializer_list<Argument> arguments) const;
@@ -67,6 +72,7 @@ class Result {
   LONG int32() const;
   SHORT int16() const;
   float single() const;
+  bool flag() const;  // null counts as false
 
   // Chains go on without a step between.
   template <class... Arguments>
@@ -91,6 +97,7 @@ class Result {
 // Walks a collection as For Each does, one element a step.
 class Enumerator {
  public:
+  // Throws "Object not a collection" where there is nothing to walk.
   explicit Enumerator(const AutomationObject& collection);
 
   // Returns whether there was a further element, and stores it.

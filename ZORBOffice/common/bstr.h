@@ -47,6 +47,7 @@ class Bstr {
 // A number in decimal digits; throws std::bad_alloc.
 Bstr decimal(LONG number);
 
+// A string that somebody else owns; null is empty.
 inline std::wstring_view view(BSTR text) { return {text ? text : L"", SysStringLen(text)}; }
 
 }  // namespace zorboffice

@@ -12,7 +12,6 @@ namespace zorboffice {
 namespace runtime_error {
 inline constexpr LONG overflow = 6;
 inline constexpr LONG out_of_memory = 7;
-inline constexpr LONG type_mismatch = 13;
 inline constexpr LONG object_variable_not_set = 91;
 inline constexpr LONG object_required = 424;
 inline constexpr LONG automation_error = 440;
@@ -36,6 +35,7 @@ struct Failure {
 // Throws what an object reported through DISP_E_EXCEPTION, and frees the strings.
 [[noreturn]] void throw_exception_info(EXCEPINFO& info);
 
+// Throws what a failed HRESULT means.
 inline void check(HRESULT result) {
   if (FAILED(result)) throw_hresult(result);
 }

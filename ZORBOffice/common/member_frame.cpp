@@ -3,6 +3,8 @@
 namespace zorboffice::detail {
 
 HRESULT run_in_frame(CallableRef body, TrapRef trap) noexcept {
+  // What an earlier call left in the thread's error information must not describe this one's failure.
+  SetErrorInfo(0, nullptr);
   try {
     try {
       body();

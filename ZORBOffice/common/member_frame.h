@@ -25,7 +25,7 @@ Value& dereferenced(Value* parameter) {
   return *parameter;
 }
 
-// A flag parameter as it travels on: any number but 0 is true.
+// A flag parameter as a value: any number but 0 is true.
 inline bool flag(VARIANT_BOOL* parameter) { return dereferenced(parameter) != VARIANT_FALSE; }
 
 // A parameter passed on by reference: the office application may write into the host's variable.
@@ -34,11 +34,27 @@ Argument by_ref(Value* parameter) {
   return Argument::reference(&dereferenced(parameter));
 }
 
+// The same for a flag, which is a 16-bit integer to the compiler.
+inline Argument by_ref_flag(VARIANT_BOOL* parameter) {
+  return Argument::flag_reference(&dereferenced(parameter));
+}
+
 // Trap: nothing is shown.
 inline constexpr auto silent = [](const Failure&) {};
 
 // Trap: the failure reaches the host.
 inline constexpr auto none = [](const Failure& failure) { throw failure; };
+
+// An instance's last error: never cleared, overwritten by the next recorded failure.
+struct LastError {
+  LONG number = 0;
+  Bstr description;
+};
+
+// Trap: the failure is kept as the last error.
+inline auto record(LastError& last_error) {
+  return [&last_error](const Failure& failure) { last_error = {failure.number, failure.description}; };
+}
 
 // Trap: the prefix, immediately followed by the description, in a message box.
 inline auto message(const wchar_t* prefix) {
@@ -53,6 +69,15 @@ auto composed_message(Compose compose) {
   return [compose](const Failure& failure) { show_message(compose(failure)); };
 }
 
+// Trap: two traps, one after the other; a failure in the first leaves the second out.
+template <class First, class Second>
+auto both(First first, Second second) {
+  return [first, second](const Failure& failure) {
+    first(failure);
+    second(failure);
+  };
+}
+
 namespace detail {
 
 inline void set_failure(BYTE* result) { *result = 0; }
@@ -62,7 +87,16 @@ inline void set_failure(LONG* result) { *result = 0; }
 inline void set_failure(BSTR* result) { *result = SysAllocStringLen(nullptr, 0); }
 inline void set_failure(VARIANT* result) { VariantInit(result); }
 
+// A caller does not free what came with a failed call.
+template <class ResultType>
+void discard(ResultType*) {}
+inline void discard(BSTR* result) {
+  SysFreeString(*result);
+  *result = nullptr;
+}
+
 inline void set_result(BYTE* result, Success) { *result = 1; }
+inline void set_result(BYTE* result, bool value) { *result = value ? 1 : 0; }
 inline void set_result(VARIANT_BOOL* result, Success) { *result = VARIANT_TRUE; }
 inline void set_result(VARIANT_BOOL* result, bool value) { *result = value ? VARIANT_TRUE : VARIANT_FALSE; }
 inline void set_result(SHORT* result, SHORT value) { *result = value; }
@@ -119,7 +153,9 @@ HRESULT trapped(ResultType* result, const Trap& trap, const Body& body) noexcept
       detail::set_result(result, body());
     }
   };
-  return detail::run_in_frame(detail::CallableRef(run), detail::TrapRef(trap));
+  const HRESULT status = detail::run_in_frame(detail::CallableRef(run), detail::TrapRef(trap));
+  if (FAILED(status)) detail::discard(result);
+  return status;
 }
 
 // The answer of a member that is not built yet.

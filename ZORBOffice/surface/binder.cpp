@@ -1,6 +1,7 @@
 #include "ZORBOffice/surface/binder.h"
 
 #include <array>
+#include <cstring>
 
 #include "ZORBOffice/common/bstr.h"
 #include "ZORBOffice/common/com_ptr.h"
@@ -140,7 +141,7 @@ class Binder {
     const VARIANT& now = binding.cell.get();
     if (V_VT(&now) != V_VT(&binding.before)) return true;
     if (V_VT(&now) == VT_BSTR) return view(V_BSTR(&now)) != binding.text_before.view();
-    return V_I8(&now) != V_I8(&binding.before);
+    return std::memcmp(&now, &binding.before, sizeof now) != 0;
   }
 
   const Member& member_;
@@ -174,6 +175,7 @@ HRESULT get_ids_of_names(MemberTable members, LPOLESTR* names, UINT count, DISPI
 HRESULT invoke_member(IDispatch* object, MemberTable members, DISPID id, LCID locale, WORD flags,
                       DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* exception,
                       UINT* argument_error) noexcept {
+  if (result) VariantInit(result);
   if (!parameters) return E_INVALIDARG;
   const Member* member = find_member(members, id);
   if (!member || !(flags & (DISPATCH_METHOD | DISPATCH_PROPERTYGET))) return DISP_E_MEMBERNOTFOUND;
@@ -186,16 +188,12 @@ HRESULT invoke_member(IDispatch* object, MemberTable members, DISPID id, LCID lo
   SetErrorInfo(0, nullptr);
   Variant answer;
   const HRESULT called = binder.call(object, answer);
-  const HRESULT written = binder.write_back(error);
-  if (FAILED(called)) {
-    if (exception) fill_exception(called, *exception);
-    return DISP_E_EXCEPTION;
-  }
+  // Before anything is written back: what that releases may set error information of its own.
+  if (FAILED(called) && exception) fill_exception(called, *exception);
+  const HRESULT written = binder.write_back(FAILED(called) ? unused : error);
+  if (FAILED(called)) return DISP_E_EXCEPTION;
   if (FAILED(written)) return written;
-  if (result) {
-    VariantInit(result);
-    *result = answer.release();
-  }
+  if (result) *result = answer.release();
   return S_OK;
 }
 

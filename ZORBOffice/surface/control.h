@@ -7,6 +7,8 @@
 
 #include <atomic>
 
+#include "ZORBOffice/common/com_ptr.h"
+#include "ZORBOffice/common/member_frame.h"
 #include "ZORBOffice/module.h"
 #include "ZORBOffice/surface/binder.h"
 #include "ZORBOffice/surface/type_information.h"
@@ -43,7 +45,11 @@ class Control : public Interface, public ISupportErrorInfo {
 
   ULONG STDMETHODCALLTYPE Release() noexcept override {
     const ULONG left = --references_;
-    if (left == 0) delete this;
+    if (left == 0) {
+      // Objects that the destructor releases may call back, which must not destroy the instance again.
+      references_ = 1;
+      delete this;
+    }
     return left;
   }
 
@@ -79,6 +85,14 @@ class Control : public Interface, public ISupportErrorInfo {
 
  protected:
   virtual ~Control() = default;
+
+  // The member frame, in which the instance stays alive: while an office call waits, the host may drop its
+  // last reference.
+  template <class ResultType, class Trap, class Body>
+  HRESULT trapped(ResultType* result, const Trap& trap, const Body& body) noexcept {
+    const ComPtr<Interface> alive(this);
+    return zorboffice::trapped(result, trap, body);
+  }
 
  private:
   const DefaultInterface& default_interface_;

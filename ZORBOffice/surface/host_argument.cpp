@@ -70,20 +70,26 @@ HRESULT HostArgument::open(VARIANTARG& argument) noexcept {
 }
 
 bool HostArgument::is_missing() const noexcept {
+  if (V_VT(variable_) == (VT_BYREF | VT_ERROR)) return *V_ERRORREF(variable_) == DISP_E_PARAMNOTFOUND;
   return V_VT(variable_) == VT_ERROR && V_ERROR(variable_) == DISP_E_PARAMNOTFOUND;
 }
 
 HRESULT HostArgument::read(VARTYPE type, LCID locale, VARIANT& cell) const noexcept {
-  const HRESULT copied = VariantCopyInd(&cell, variable_);
-  if (FAILED(copied) || type == VT_VARIANT || type == V_VT(&cell)) return copied;
-  return convert(cell, cell, locale, type);
+  HRESULT status = VariantCopyInd(&cell, variable_);
+  if (FAILED(status)) return status == E_OUTOFMEMORY ? status : DISP_E_BADVARTYPE;
+  if (type == VT_VARIANT || type == V_VT(&cell)) return S_OK;
+  status = convert(cell, cell, locale, type);
+  // An object's default property may fail in ways of its own; to the host the argument does not convert.
+  const bool standard = SUCCEEDED(status) || status == DISP_E_OVERFLOW || status == E_OUTOFMEMORY;
+  return standard ? status : DISP_E_TYPEMISMATCH;
 }
 
 HRESULT HostArgument::write(const VARIANT& cell, LCID locale) noexcept {
   const bool typed = V_VT(variable_) & VT_BYREF;
+  const bool is_array = V_VT(variable_) & VT_ARRAY;
   const VARTYPE own_type = V_VT(variable_) & VT_TYPEMASK;
   Variant value;
-  HRESULT status = convert(value.get(), cell, locale, own_type);
+  HRESULT status = is_array ? DISP_E_TYPEMISMATCH : convert(value.get(), cell, locale, own_type);
   if (typed) return FAILED(status) ? status : store_through(*variable_, value);
 
   const bool has_own_type = own_type != VT_EMPTY && own_type != VT_NULL;

@@ -64,6 +64,7 @@ constexpr bool agrees_with_signature(const Member& member) {
   return member.call.arguments[count].carries(member.result, true);
 }
 
+// Whether all rows of a table do; to be asserted at compile time.
 constexpr bool agree_with_signatures(MemberTable members) {
   return std::all_of(members.begin(), members.end(), agrees_with_signature);
 }

@@ -59,6 +59,8 @@ template <class T>
 T argument_in(VARIANT& cell) {
   if constexpr (std::is_same_v<T, VARIANT*>) {
     return &cell;
+  } else if constexpr (std::is_same_v<T, VARIANT>) {
+    return cell;
   } else if constexpr (is_reference<T>) {
     // The values of all other types lie at the start of the variant's union.
     return reinterpret_cast<T>(&V_UI1(&cell));

@@ -10,6 +10,10 @@ namespace zorboffice {
 // "Task" or "Email", compared exactly. A flag result is VARIANT_TRUE for success; a text result is "" on
 // failure; failures are kept for GetLastErrorNumber and GetLastErrorDescription. A null result pointer gives
 // E_POINTER.
+//
+// Every trap records the failure; OpenItem, InitItems, SaveEmailAttachment, GetFirstItem, GetNextItem,
+// NewEmail, SetRecurrenceProperty and the contact and task property members also show a message box. The last
+// two members have no trap.
 struct OutlookInterface : IDispatch {
   // Starts a session with Outlook.
   virtual HRESULT STDMETHODCALLTYPE StartOutlook(VARIANT_BOOL* result) noexcept = 0;

@@ -12,12 +12,13 @@ struct Choice;
 
 // Both classes publish the same forty members in the same slots; early-bound hosts rely on it.
 //
-// Every parameter is passed by reference; a null reference gives E_POINTER's failure through the member's
-// trap, a null result pointer gives E_POINTER at once. "Trap" names what a failure does: message: the text
-// and the failure's description are shown in a message box, the member answers its failure
-//   result and S_OK;
-// silent: nothing is shown, the member answers its failure result and S_OK;
-// none: the failure reaches the host as a failed call with number and description.
+// Every parameter is passed by reference; a null reference is a failure like any other (through the member's
+// trap), a null result pointer gives E_POINTER at once.
+//
+// A member's trap says what a failure does. Message: the text and the failure's description are shown in a
+// message box, and the member answers its failure result and S_OK. Silent: the same without the box. None:
+// the failure reaches the host as a failed call with number and description.
+//
 // A byte result is 1 for success and 0 for failure; a flag result is VARIANT_TRUE or VARIANT_FALSE; a variant
 // result is always empty. Units and constants named wd... are those of the word processor's object model.
 struct WordProcessorInterface : IDispatch {

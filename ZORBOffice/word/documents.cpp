@@ -10,9 +10,9 @@ namespace {
 
 constexpr LONG original_document_format = 1;  // wdOriginalDocumentFormat
 
-// Dispatches the messages that are pending now. Windows that keep posting to themselves do not hold the
-// member up: the first message younger than the call is the last one.
+// Dispatches the pending messages. Windows that keep posting to themselves do not hold the member up.
 void run_pending_messages() {
+  constexpr DWORD longest = 250;  // milliseconds
   const DWORD start = GetTickCount();
   MSG message;
   while (PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE)) {
@@ -23,7 +23,7 @@ void run_pending_messages() {
     }
     TranslateMessage(&message);
     DispatchMessageW(&message);
-    if (static_cast<LONG>(message.time - start) > 0) return;
+    if (GetTickCount() - start > longest) return;
   }
 }
 
@@ -77,15 +77,16 @@ HRESULT WordMembers::SaveDocAsPDF(VARIANT_BOOL* result) noexcept {
       held.put(L"ActivePrinter", *pdf_printer);
       document().call(L"PrintOut");
     }
-    held.put(L"ActivePrinter", own_printer);
+    held.put(L"ActivePrinter", own_printer);  // when this fails the answer is false, although it was printed
     return pdf_printer.has_value();
   });
 }
 
 HRESULT WordMembers::CloseDoc(SHORT* SaveOption, VARIANT* result) noexcept {
   return trapped(result, message(L"Close Doc "), [&] {
-    document().call(L"Close", by_ref(SaveOption), original_document_format, false);
-    active_document_ = {};
+    const AutomationObject held = document();
+    held.call(L"Close", by_ref(SaveOption), original_document_format, false);
+    if (active_document_ == held) active_document_ = {};
   });
 }
 

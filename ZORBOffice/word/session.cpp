@@ -37,10 +37,9 @@ void place_window(const AutomationObject& application) {
 
 HRESULT WordMembers::get_Start(VARIANT_BOOL* Template, BYTE* result) noexcept {
   return trapped(result, silent, [&] {
-    const bool place = flag(Template);
     const AutomationObject started = AutomationObject::create(L"Word.Application");
     application_ = started;
-    if (place) {
+    if (flag(Template)) {
       place_window(started);
     } else {
       started.get(L"Options").put(L"AutoFormatAsYouTypeApplyNumberedLists", false);
@@ -77,7 +76,7 @@ HRESULT WordMembers::StopWord(VARIANT_BOOL* Force, VARIANT* result) noexcept {
     const AutomationObject held = application();
     if (!flag(Force) && held.get(L"Documents").get(L"Count").int32() != 0) return;
     held.call(L"Quit");
-    application_ = {};
+    if (application_ == held) application_ = {};
   });
 }
 

@@ -86,7 +86,7 @@ class WordMembers : public Control<WordProcessorInterface> {
 
  private:
   // Members work on references of their own: while an office call waits, the host may run a member that
-  // replaces the fields.
+  // replaces the fields. A member that clears a field leaves such a newer object alone.
   AutomationObject application() const { return application_; }
   AutomationObject document() const { return active_document_; }
 

@@ -1,5 +1,4 @@
-// The binder in front of a control of the test's own: every form in which hosts pass arguments, for every
-// type that a parameter can have.
+// The binder in front of a control of the test's own: every form of an argument for every type of parameter.
 #include <gtest/gtest.h>
 #include <comutil.h>
 #include <cstring>
@@ -17,6 +16,7 @@ using Texts = std::vector<std::string>;
 using Values = std::vector<VARIANT>;
 
 enum Slot : SHORT { text, int16, boolean, int32, byte, any, slots };  // the parameters, one of each type
+constexpr WORD either = DISPATCH_METHOD | DISPATCH_PROPERTYGET;
 constexpr VARTYPE types[] = {VT_BSTR, VT_I2, VT_BOOL, VT_I4, VT_UI1, VT_VARIANT};
 
 VARIANT of_kind(int type, auto content) {
@@ -32,10 +32,11 @@ const VARIANT missing = of_kind(VT_ERROR, DISP_E_PARAMNOTFOUND), five = of_kind(
 struct Probe final : Control<IDispatch> {
   Probe();
   Texts received;
-  std::map<size_t, _variant_t> changes;
+  std::map<size_t, _variant_t> changes;  // what the parameters at these positions become
   void (*raise)() = nullptr;
 
   void run(bool by_reference, std::initializer_list<void*> parameters) {
+    received.clear();
     for (void* parameter : parameters) {
       const size_t slot = received.size(), sizes[] = {0, 2, 2, 4, 1, 0};
       const VARIANT seen = to(types[slot], parameter);
@@ -43,7 +44,8 @@ struct Probe final : Control<IDispatch> {
       if (!changes.contains(slot)) continue;
       std::memcpy(parameter, &changes[slot].bVal, sizes[slot]);
       if (slot == any && by_reference) VariantCopy(seen.pvarVal, &changes[slot]);
-      if (slot == text && by_reference) SysReAllocString(seen.pbstrVal, changes[slot].bstrVal);
+      const BSTR new_text = slot == text ? changes[slot].bstrVal : nullptr;
+      if (slot == text && by_reference) SysReAllocStringLen(seen.pbstrVal, new_text, SysStringLen(new_text));
       if (slot == text && !by_reference && **seen.pbstrVal) **seen.pbstrVal = L'!';
     }
     if (raise) raise();
@@ -54,31 +56,24 @@ struct Probe final : Control<IDispatch> {
   HRESULT WINAPI Copy(BSTR a, SHORT b, SHORT c, LONG d, BYTE e, VARIANT f, BSTR* result) noexcept {
     return trapped(result, none, [&] { return run(false, {&a, &b, &c, &d, &e, &f}), Bstr(L"copied"); });
   }
-  HRESULT WINAPI Half(VARIANT* result) noexcept { return *result = _variant_t(0.5), S_OK; }
   HRESULT WINAPI Byte(BYTE* result) noexcept { return *result = 255, S_OK; }
-  HRESULT WINAPI Short(SHORT* result) noexcept { return *result = -1, S_OK; }
-  HRESULT WINAPI Long(LONG* result) noexcept { return *result = -1, S_OK; }
+  HRESULT WINAPI Flag(VARIANT_BOOL* result) noexcept { return *result = -1, S_OK; }
 };
 
-constexpr std::initializer_list<Parameter> references = {
+constexpr std::initializer_list<Parameter> parameters_by_reference = {
     by_ref(L"Text", VT_BSTR).defaults_to(0),  by_ref(L"Short", VT_I2).defaults_to(1),
     by_ref(L"Flag", VT_BOOL).defaults_to(-1), by_ref(L"Long", VT_I4).defaults_to(3),
     by_ref(L"Byte", VT_UI1).defaults_to(4),   by_ref(L"Any", VT_VARIANT).defaults_to(5)};
-constexpr std::initializer_list<Parameter> copies = {by_value(L"Text", VT_BSTR),
-                                                     by_value(L"Short", VT_I2).defaults_to(1),
-                                                     by_value(L"Flag", VT_BOOL).defaults_to(-1),
-                                                     by_value(L"Long", VT_I4).optional(),
-                                                     by_value(L"Byte", VT_UI1).defaults_to(4),
-                                                     by_value(L"Any", VT_VARIANT).defaults_to(5)};
-enum : DISPID { refer, copy, byte_result, flag_result, short_result, long_result, variant_result };
+constexpr std::initializer_list<Parameter> parameters_by_value = {
+    by_value(L"RequiredText", VT_BSTR),         by_value(L"Short", VT_I2).defaults_to(1),
+    by_value(L"Flag", VT_BOOL).defaults_to(-1), by_value(L"Long", VT_I4).optional(),
+    by_value(L"Byte", VT_UI1).defaults_to(4),   by_value(L"Any", VT_VARIANT).defaults_to(5)};
+enum : DISPID { refer, copy, byte_result, flag_result };
 constexpr Member members[] = {
-    {L"Refer", refer, property_get, VT_I4, native_call<&Probe::Refer>, references},
-    {L"Copy", copy, method, VT_BSTR, native_call<&Probe::Copy>, copies},
+    {L"Refer", refer, property_get, VT_I4, native_call<&Probe::Refer>, parameters_by_reference},
+    {L"Copy", copy, method, VT_BSTR, native_call<&Probe::Copy>, parameters_by_value},
     {L"Byte", byte_result, method, VT_UI1, native_call<&Probe::Byte>, {}},
-    {L"Flag", flag_result, method, VT_BOOL, native_call<&Probe::Short>, {}},
-    {L"Short", short_result, method, VT_I2, native_call<&Probe::Short>, {}},
-    {L"Long", long_result, method, VT_I4, native_call<&Probe::Long>, {}},
-    {L"Variant", variant_result, method, VT_VARIANT, native_call<&Probe::Half>, {}}};
+    {L"Flag", flag_result, method, VT_BOOL, native_call<&Probe::Flag>, {}}};
 static_assert(agree_with_signatures(members));
 constinit const MemberTable table = members;
 const DefaultInterface surface{IID_IDispatch, table};
@@ -89,10 +84,10 @@ class Binder : public testing::Test {
   ~Binder() override { EXPECT_EQ(probe_->Release(), 0u) << "an object argument is still held"; }
 
   // Arguments stand as Invoke takes them: named ones first, positional ones from last to first.
-  HRESULT invoke(DISPID id, Values values = {}, Ids named = {}, LCID locale = 0x409, WORD flags = 3) {
+  HRESULT invoke(DISPID id, Values values = {}, Ids named = {}, LCID locale = 0x409, WORD flags = either) {
     DISPPARAMS given = {values.data(), named.data(), UINT(values.size()), UINT(named.size())};
     probe_->received.clear();
-    VARIANT result = of_kind(VT_BSTR, 1);  // what stood there before is not the callee's to free
+    VARIANT result = of_kind(VT_DISPATCH, 1);  // what stood there before is not the callee's to free
     const HRESULT status = probe_->Invoke(id, IID_NULL, locale, flags, &given, &result, &raised_, &index_);
     if (SUCCEEDED(status)) result_ = describe(_variant_t(result, false));
     return status;
@@ -115,8 +110,8 @@ class Binder : public testing::Test {
 
 int used_blocks() {
   int count = 0;
-  PROCESS_HEAP_ENTRY entry = {};
-  while (HeapWalk(GetProcessHeap(), &entry)) count += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0;
+  for (PROCESS_HEAP_ENTRY entry = {}; HeapWalk(GetProcessHeap(), &entry);)
+    count += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0;
   return count;
 }
 
@@ -133,13 +128,8 @@ TEST_F(Binder, ConvertsEachFormAndWritesOnlyChangesBackWithoutALeak) {
     LCID locale = 0x409;
   } rows[] = {
       {text, L"a", "bstr \"a\"", L"b", "bstr \"b\""},
-      {text, 5L, "bstr \"5\"", L"17", "i4 17"},
       {text, 5L, "bstr \"5\"", L"x", "bstr \"x\"", DISP_E_TYPEMISMATCH},
-      {text, true, "bstr \"True\"", L"", "bstr \"\"", DISP_E_TYPEMISMATCH},
-      {text, empty, "bstr \"\"", L"x", "bstr \"x\""},
       {text, 1.5, "bstr \"1,5\"", L"2,5", "r8 2.5", S_OK, 0x407},
-      {int16, short{5}, "i2 5", short{7}, "i2 7"},
-      {int16, L"5", "i2 5", short{7}, "bstr \"7\""},
       {int16, BYTE{5}, "i2 5", short{300}, "i2 300", DISP_E_OVERFLOW},
       {int16, empty, "i2 0", short{7}, "i2 7"},
       {boolean, 5L, "bool -1", false, "i4 0"},
@@ -148,54 +138,49 @@ TEST_F(Binder, ConvertsEachFormAndWritesOnlyChangesBackWithoutALeak) {
       {int32, 70000L, "i4 70000", 7L, "i4 7"},
       {int32, short{5}, "i4 5", 70000L, "i4 70000", DISP_E_OVERFLOW},
       {int32, 5ll, "i4 5", 7L, "[20] 7"},
-      {int32, DECIMAL{}, "i4 0", 7L, "[14] 7"},
       {int32, L"1,5", "i4 2", 7L, "bstr \"7\"", S_OK, 0x407},
       {int32, L"1,5", "i4 15", 7L, "bstr \"7\""},
       {byte, BYTE{5}, "ui1 5", BYTE{255}, "ui1 255"},
-      {byte, 5L, "ui1 5", BYTE{255}, "i4 255"},
-      {any, 5L, "i4 5", L"7", "i4 7"},
-      {any, BYTE{5}, "ui1 5", 70000L, "i4 70000", DISP_E_OVERFLOW},
       {any, empty, "empty", L"x", "bstr \"x\""},
       {any, numbers, "[8195] ", 7L, "i4 7", DISP_E_TYPEMISMATCH},
       {any, object, "object", 7L, "i4 7", DISP_E_TYPEMISMATCH},
   };
   const Ids orders[] = {{5, 4, 3, 2, 1, 0}, {4, 5, 3, 2, 1, 0}, {2, 5, 0, 4, 1, 3}};
+  constexpr int ways = 15, cases = static_cast<int>(std::size(rows)) * ways;
   int blocks = 0;
-  for (int round = 0; round < 100 && !HasFailure(); ++round) {
-    if (round == 1) blocks = used_blocks();
-    for (const auto& row : rows) {
-      for (int way = 0; way < 15; ++way) {
-        const bool typed = way > 8;
-        if (typed && row.host.vt == VT_EMPTY) continue;
-        const std::string host = describe(row.host);
-        SCOPED_TRACE(host + " as " + row.received + " way " + std::to_string(way));
-        _variant_t variable = row.host;
-        void* content = variable.vt == VT_DECIMAL ? static_cast<void*>(&variable) : &variable.bVal;
-        VARIANT before = variable, own = to(variable.vt, content), whole = to(VT_VARIANT, &variable);
-        const VARIANT forms[] = {before, whole, to(VT_VARIANT, &whole), own, to(VT_VARIANT, &own)};
-        LONG other = 5;  // the variable behind every other argument
-        Values values(slots, to(VT_I4, &other));
-        const Ids& order = orders[way % 3];
-        const auto place = std::ranges::find(order, row.slot) - order.begin();
-        values[place] = forms[way / 3];
-        const auto run = [&](DISPID id, HRESULT expected) {
-          const Ids named(order.begin(), order.begin() + (way % 3 == 1 ? 2 : way % 3 * 3));
-          EXPECT_EQ(invoke(id, values, named, row.locale), expected);
-          EXPECT_EQ(probe_->received.at(row.slot), row.received);
-          EXPECT_EQ(other, 5);
-        };
-        probe_->changes.clear();
-        run(refer, S_OK);
-        probe_->changes[row.slot] = row.change;
-        run(copy, S_OK);
-        EXPECT_EQ(std::memcmp(&before, &variable, sizeof before), 0) << describe(variable);
-        EXPECT_EQ(describe(variable), host);
-        const HRESULT refusal = typed ? row.refusal : S_OK;
-        run(refer, refusal);
-        EXPECT_EQ(FAILED(refusal) ? index_ : place, UINT(place));
-        EXPECT_EQ(describe(variable), way < 3 || FAILED(refusal) ? host : row.after);
-      }
-    }
+  for (int i = 0; i < 100 * cases && (i <= cases || !HasFailure()); ++i) {
+    if (i == cases) blocks = used_blocks();
+    const auto& row = rows[i / ways % std::size(rows)];
+    const int form = i % ways / 3, naming = i % 3;
+    const bool typed = form > 2;
+    if (typed && row.host.vt == VT_EMPTY) continue;
+    const std::string host = describe(row.host);
+    SCOPED_TRACE(host + " as " + row.received + " way " + std::to_string(i % ways));
+    _variant_t variable = row.host;
+    VARIANT before = variable, own = to(variable.vt, &variable.bVal), whole = to(VT_VARIANT, &variable);
+    const VARIANT forms[] = {before, whole, to(VT_VARIANT, &whole), own, to(VT_VARIANT, &own)};
+    LONG other = 5;  // the variable behind every other argument
+    Values values(slots, to(VT_I4, &other));
+    const Ids& order = orders[naming];
+    const auto place = std::ranges::find(order, row.slot) - order.begin();
+    values[place] = forms[form];
+    const auto run = [&](DISPID id, HRESULT expected) {
+      const Ids named(order.begin(), order.begin() + (naming == 1 ? 2 : naming * 3));
+      EXPECT_EQ(invoke(id, values, named, row.locale), expected);
+      EXPECT_EQ(probe_->received.at(row.slot), row.received);
+      EXPECT_EQ(other, 5);
+    };
+    probe_->changes.clear();
+    run(refer, S_OK);
+    probe_->changes[row.slot] = row.change;
+    run(copy, S_OK);
+    EXPECT_EQ(result_, "bstr \"copied\"");
+    EXPECT_EQ(std::memcmp(&before, &variable, sizeof before), 0) << describe(variable);
+    EXPECT_EQ(describe(variable), host);
+    const HRESULT refusal = typed ? row.refusal : S_OK;
+    run(refer, refusal);
+    EXPECT_EQ(FAILED(refusal) ? index_ : place, UINT(place));
+    EXPECT_EQ(describe(variable), form == 0 || FAILED(refusal) ? host : row.after);
   }
   EXPECT_LT(used_blocks() - blocks, 50);
 }
@@ -209,28 +194,25 @@ TEST_F(Binder, OmittedArgumentsGetTheirDefaults) {
       EXPECT_EQ(probe_->received, (Texts{"bstr \"\"", "i2 1", "bool -1", "i4 3", "ui1 4", "i2 5"}));
       EXPECT_EQ(describe(host), "missing");
     }
-    EXPECT_EQ(invoke(copy, {absent, five, absent, five}, {int32, text}), S_OK);
-    EXPECT_EQ(probe_->received, (Texts{"bstr \"5\"", "i2 1", "bool -1", "i4 0", "ui1 4", "i2 5"}));
+    EXPECT_EQ(invoke(copy, {absent, five, absent, five}, {int32, byte}), S_OK);
+    EXPECT_EQ(probe_->received, (Texts{"bstr \"5\"", "i2 1", "bool -1", "i4 0", "ui1 5", "i2 5"}));
   }
 }
 
 TEST_F(Binder, RefusesWhatItCannotBind) {
   const _variant_t word(L"x");
-  const VARIANT minus = of_kind(VT_I2, -1), null = of_kind(VT_NULL, 0), large = of_kind(VT_I4, 70000);
+  const VARIANT minus = of_kind(VT_I2, -1), null = of_kind(VT_NULL, 0);
   VARIANT cycle = to(VT_VARIANT, &cycle), argument = five;
   refuses(refer, Values(7, five), {}, DISP_E_BADPARAMCOUNT);
   refuses(refer, {word, five, five}, {text}, DISP_E_BADPARAMCOUNT);
   refuses(refer, {five, five, five}, {int16, slots}, DISP_E_PARAMNOTFOUND, 1);
   refuses(refer, {five}, {DISPID_PROPERTYPUT}, DISP_E_PARAMNOTFOUND, 0);
-  refuses(refer, {five, word, five}, {}, DISP_E_TYPEMISMATCH, 1);
   refuses(copy, {five, word, five}, {byte, int32}, DISP_E_TYPEMISMATCH, 1);
   refuses(refer, {five, five, null}, {}, DISP_E_TYPEMISMATCH, 2);
-  refuses(copy, {large, five}, {}, DISP_E_OVERFLOW, 0);
   refuses(refer, {five, minus}, {int16, byte}, DISP_E_OVERFLOW, 1);
   refuses(refer, {five, to(VT_BSTR, nullptr)}, {}, DISP_E_BADVARTYPE, 1);
   refuses(copy, {five, five, to(VT_VARIANT, nullptr)}, {}, DISP_E_BADVARTYPE, 2);
   refuses(refer, {cycle, five}, {}, DISP_E_BADVARTYPE, 0);
-  refuses(copy, {five}, {int16}, DISP_E_PARAMNOTOPTIONAL);
   refuses(copy, {five, missing}, {}, DISP_E_PARAMNOTOPTIONAL, 1);
   refuses(99, {}, {}, DISP_E_MEMBERNOTFOUND);
   DISPID name = 0;
@@ -242,19 +224,15 @@ TEST_F(Binder, RefusesWhatItCannotBind) {
 TEST_F(Binder, TakesEitherFlagAndReturnsEachTypeOfResult) {
   for (const WORD flags : {0, DISPATCH_METHOD, DISPATCH_PROPERTYGET, DISPATCH_PROPERTYPUT})
     for (const DISPID id : {refer, byte_result})
-      EXPECT_EQ(invoke(id, {}, {}, 0, flags), flags & 3 ? S_OK : DISP_E_MEMBERNOTFOUND) << flags;
-  Texts results;
-  for (int id = copy; id <= variant_result; ++id) {
-    EXPECT_EQ(invoke(id, Values(id == copy, five)), S_OK);
-    results.push_back(result_);
-  }
-  EXPECT_EQ(results, (Texts{"bstr \"copied\"", "ui1 255", "bool -1", "i2 -1", "i4 -1", "r8 0.5"}));
+      EXPECT_EQ(invoke(id, {}, {}, 0, flags), flags & either ? S_OK : DISP_E_MEMBERNOTFOUND) << flags;
+  EXPECT_EQ(result_, "ui1 255");
+  EXPECT_EQ(invoke(flag_result), S_OK);
+  EXPECT_EQ(result_, "bool -1");
 }
 
 TEST_F(Binder, HandsFailuresToTheHost) {
   const std::pair<void (*)(), const char*> rows[] = {
       {[] { throw_runtime_error(6); }, "800A0006 Overflow"},
-      {[] { throw_hresult(E_ABORT); }, "80004004 Operation aborted"},
       {[] { throw std::bad_alloc(); }, "800A0007 Out of memory"},
       {[] { throw 1; }, "800A01B8 Automation error"}};
   DISPPARAMS nothing = {};
@@ -280,10 +258,9 @@ TEST_F(Binder, FindsNamesInAnyCase) {
     found.back() = probe_->GetIDsOfNames(IID_NULL, asked, UINT(names.size()), 0, found.data());
     return found;
   };
-  EXPECT_EQ(find({L"cOPY", L"LONG", L"text"}), (Ids{copy, int32, text, S_OK}));
+  EXPECT_EQ(find({L"cOPY", L"LONG", L"requiredtext"}), (Ids{copy, int32, text, S_OK}));
   EXPECT_EQ(find({L"Copy", L"Short", L"Longer"}), (Ids{copy, int16, -1, DISP_E_UNKNOWNNAME}));
-  EXPECT_EQ(find({L"Ref", L"Text"}), (Ids{-1, -1, DISP_E_UNKNOWNNAME}));
-  EXPECT_EQ(find({nullptr}), (Ids{-1, DISP_E_UNKNOWNNAME}));
+  EXPECT_EQ(find({L"Ref", nullptr}), (Ids{-1, -1, DISP_E_UNKNOWNNAME}));
 }
 
 }  // namespace

@@ -15,6 +15,21 @@ TEST_F(State, AnEndingControlReleasesAndCallsNothing) {
   EXPECT_EQ(log(), "");
 }
 
+TEST_F(State, AControlThatTheHostDropsDuringACallEndsAfterIt) {
+  make_ready();
+  word_.answers["Documents.Open"] = {{}, "Document", {}, [&](const DISPPARAMS&) { control_.Reset(); }};
+  expect(L"OpenDoc", {L"C:\\b.docx"}, "ui1 1");
+  EXPECT_EQ(word_.live, 0);
+}
+
+TEST_F(State, ADocumentOpenedWhileAnotherClosesStays) {
+  make_ready();
+  word_.answers["Document.Close"].effect = [&](const DISPPARAMS&) { expect(L"OpenDoc", {L"b"}, "ui1 1"); };
+  expect(L"CloseDoc", {}, "empty");
+  EXPECT_EQ(word_.live, 2);
+  expect(L"SaveDoc", {}, "empty");
+}
+
 TEST_F(State, ASecondStartReplacesTheApplicationAndQuitsNothing) {
   make_ready();
   expect(L"Start", {}, "ui1 1");
