@@ -23,6 +23,13 @@ class Argument {
   }
   Argument(const Bstr& text) : Argument(VT_BSTR) { V_BSTR(&value_) = text.get(); }
 
+  // An object by value.
+  static Argument object(IDispatch* value) {
+    Argument argument(VT_DISPATCH);
+    V_DISPATCH(&argument.value_) = value;
+    return argument;
+  }
+
   // A string by value.
   static Argument text(BSTR value) {
     Argument argument(VT_BSTR);

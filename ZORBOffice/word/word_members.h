@@ -53,42 +53,51 @@ class WordMembers : public Control<WordProcessorInterface> {
   HRESULT STDMETHODCALLTYPE Move(SHORT* Unit, SHORT* Units, VARIANT* result) noexcept override;
   HRESULT STDMETHODCALLTYPE GotoLine(SHORT* LineNo, VARIANT_BOOL* result) noexcept override;
 
-  // Not built yet.
-  HRESULT STDMETHODCALLTYPE get_Search(BSTR*, BYTE*, VARIANT_BOOL*, VARIANT_BOOL*, VARIANT_BOOL*,
-                                       VARIANT_BOOL*, VARIANT_BOOL*, VARIANT_BOOL*, VARIANT_BOOL*,
-                                       BYTE* result) noexcept override {
-    return not_built(result);
-  }
-  HRESULT STDMETHODCALLTYPE get_InTable(BYTE* result) noexcept override { return not_built(result); }
-  HRESULT STDMETHODCALLTYPE SelectRow(VARIANT* result) noexcept override { return not_built(result); }
-  HRESULT STDMETHODCALLTYPE get_Replace(BSTR*, BSTR*, BYTE*, VARIANT_BOOL*, VARIANT_BOOL*, VARIANT_BOOL*,
-                                        VARIANT_BOOL*, VARIANT_BOOL*, VARIANT_BOOL*, VARIANT_BOOL*, BYTE*,
-                                        BYTE* result) noexcept override {
-    return not_built(result);
-  }
-  HRESULT STDMETHODCALLTYPE get_NumberOfSections(LONG* result) noexcept override { return not_built(result); }
-  HRESULT STDMETHODCALLTYPE get_ReadHeaderFooterText(LONG*, VARIANT_BOOL*, BYTE*, LONG*, LONG*,
-                                                     BSTR* result) noexcept override {
-    return not_built(result);
-  }
-  HRESULT STDMETHODCALLTYPE get_SetHeaderFooter(BSTR*, BSTR*, Choice*, Choice*, Choice*,
-                                                BYTE* result) noexcept override {
-    return not_built(result);
-  }
-  HRESULT STDMETHODCALLTYPE get_ReplaceHeaderFooter(LONG*, VARIANT_BOOL*, BYTE*, BSTR*, BSTR*, BYTE*,
-                                                    VARIANT_BOOL*, VARIANT_BOOL*, VARIANT_BOOL*,
-                                                    VARIANT_BOOL*, VARIANT_BOOL*, VARIANT_BOOL*,
-                                                    VARIANT_BOOL*, BYTE*, BYTE* result) noexcept override {
-    return not_built(result);
-  }
-  HRESULT STDMETHODCALLTYPE get_CellCount(LONG* result) noexcept override { return not_built(result); }
-  HRESULT STDMETHODCALLTYPE get_CellText(LONG*, BSTR* result) noexcept override { return not_built(result); }
+  // search.cpp
+  HRESULT STDMETHODCALLTYPE get_Search(BSTR* SearchString, BYTE* WrapAction, VARIANT_BOOL* SearchForward,
+                                       VARIANT_BOOL* BeginAtTop, VARIANT_BOOL* MatchCase,
+                                       VARIANT_BOOL* MatchWholeWord, VARIANT_BOOL* MatchWildcards,
+                                       VARIANT_BOOL* MatchSoundsLike, VARIANT_BOOL* MatchAllWordForms,
+                                       BYTE* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE get_Replace(BSTR* SearchString, BSTR* ReplaceString, BYTE* WrapAction,
+                                        VARIANT_BOOL* SearchForward, VARIANT_BOOL* BeginAtTop,
+                                        VARIANT_BOOL* MatchCase, VARIANT_BOOL* MatchWholeWord,
+                                        VARIANT_BOOL* MatchWildcards, VARIANT_BOOL* MatchSoundsLike,
+                                        VARIANT_BOOL* MatchAllWordForms, BYTE* ReplaceOption,
+                                        BYTE* result) noexcept override;
+
+  // tables.cpp
+  HRESULT STDMETHODCALLTYPE get_InTable(BYTE* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE SelectRow(VARIANT* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE get_CellCount(LONG* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE get_CellText(LONG* CellId, BSTR* result) noexcept override;
+
+  // headers_footers.cpp
+  HRESULT STDMETHODCALLTYPE get_NumberOfSections(LONG* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE get_ReadHeaderFooterText(LONG* Section, VARIANT_BOOL* IsHeader,
+                                                     BYTE* HeaderFooterType, LONG* StartPos, LONG* EndPos,
+                                                     BSTR* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE get_SetHeaderFooter(BSTR* SourceTemplate, BSTR* DestTemplate, Choice* ApplyHeader,
+                                                Choice* ApplyFooter, Choice* ApplyFont,
+                                                BYTE* result) noexcept override;
+  HRESULT STDMETHODCALLTYPE get_ReplaceHeaderFooter(
+      LONG* Section, VARIANT_BOOL* IsHeader, BYTE* HeaderFooterType, BSTR* SearchString, BSTR* ReplaceString,
+      BYTE* WrapAction, VARIANT_BOOL* SearchForward, VARIANT_BOOL* BeginAtTop, VARIANT_BOOL* MatchCase,
+      VARIANT_BOOL* MatchWholeWord, VARIANT_BOOL* MatchWildcards, VARIANT_BOOL* MatchSoundsLike,
+      VARIANT_BOOL* MatchAllWordForms, BYTE* ReplaceOption, BYTE* result) noexcept override;
+
+ protected:
+  // One of SetHeaderFooter's choices, whose type is the one difference between the two classes.
+  virtual bool is_chosen(Choice* choice) const = 0;
 
  private:
   // Members work on references of their own: while an office call waits, the host may run a member that
   // replaces the fields. A member that clears a field leaves such a newer object alone.
   AutomationObject application() const { return application_; }
   AutomationObject document() const { return active_document_; }
+
+  // A header or footer of the active document, whether it exists or not.
+  AutomationObject header_footer(LONG* Section, VARIANT_BOOL* IsHeader, BYTE* HeaderFooterType) const;
 
   // The selection of the active document's window.
   AutomationObject selection() const;

@@ -8,6 +8,9 @@ namespace zorboffice {
 class ZORBWord final : public WordMembers {
  public:
   using WordMembers::WordMembers;
+
+ private:
+  bool is_chosen(Choice* choice) const override { return flag(reinterpret_cast<VARIANT_BOOL*>(choice)); }
 };
 
 }  // namespace zorboffice

@@ -33,28 +33,33 @@ inline constexpr Member word_members[] = {
     {0x6803000B,
      L"get Search(SearchString &string, WrapAction &byte=1, SearchForward &flag=-1, BeginAtTop &flag=0, "
      L"MatchCase &flag=0, MatchWholeWord &flag=0, MatchWildcards &flag=0, MatchSoundsLike &flag=0, "
-     L"MatchAllWordForms &flag=0) byte"},
-    {0x6803000A, L"get InTable() byte"},
-    {0x60030015, L"call SelectRow() variant"},
+     L"MatchAllWordForms &flag=0) byte",
+     "Search Object required"},
+    {0x6803000A, L"get InTable() byte", "InTable Object required"},
+    {0x60030015, L"call SelectRow() variant", "Select Row Object required"},
     {0x68030009,
      L"get Replace(SearchString &string, ReplaceString &string, WrapAction &byte=1, "
      L"SearchForward &flag=-1, BeginAtTop &flag=-1, MatchCase &flag=0, MatchWholeWord &flag=0, "
      L"MatchWildcards &flag=0, MatchSoundsLike &flag=0, MatchAllWordForms &flag=0, "
-     L"ReplaceOption &byte=1) byte"},
-    {0x68030008, L"get NumberOfSections() long"},
+     L"ReplaceOption &byte=1) byte",
+     ""},
+    {0x68030008, L"get NumberOfSections() long", Member::raised},
     {0x68030007,
      L"get ReadHeaderFooterText(Section &long, IsHeader &flag, HeaderFooterType &byte, StartPos &long, "
-     L"EndPos &long) string"},
+     L"EndPos &long) string",
+     "Read h/f : Object required"},
     {0x68030006,
      L"get SetHeaderFooter(SourceTemplate &string, DestTemplate &string, ApplyHeader &flag, "
-     L"ApplyFooter &flag, ApplyFont &flag) byte"},
+     L"ApplyFooter &flag, ApplyFont &flag) byte",
+     "Nothing has been set to be changed!"},
     {0x68030005,
      L"get ReplaceHeaderFooter(Section &long, IsHeader &flag, HeaderFooterType &byte, "
      L"SearchString &string, ReplaceString &string, WrapAction &byte=1, SearchForward &flag=-1, "
      L"BeginAtTop &flag=-1, MatchCase &flag=0, MatchWholeWord &flag=0, MatchWildcards &flag=0, "
-     L"MatchSoundsLike &flag=0, MatchAllWordForms &flag=0, ReplaceOption &byte=1) byte"},
-    {0x68030004, L"get CellCount() long"},
-    {0x68030003, L"get CellText(CellId &long) string"},
+     L"MatchSoundsLike &flag=0, MatchAllWordForms &flag=0, ReplaceOption &byte=1) byte",
+     "Replace Header/Footer Object required"},
+    {0x68030004, L"get CellCount() long", "CellCount Object required"},
+    {0x68030003, L"get CellText(CellId &long) string", "CellText Object required"},
     {0x60030016, L"call Cut() variant", ""},
     {0x60030017, L"call SelectParagraph() variant", "Select Paragraph Object required"},
     {0x68030002, L"get SelectionText() string", "SelectionText Object required"},

@@ -17,8 +17,8 @@ void register_class(const std::wstring& text) {
 
 FakeWord::FakeWord() {
   CoInitialize(nullptr);
-  objects = {"ActiveWindow", "Documents", "Options",   "Paragraphs",
-             "Range",        "Sections",  "Selection", "System"};
+  objects = {"ActiveWindow", "Cells", "Documents", "Find",     "Footers",   "Headers", "Options",
+             "Paragraphs",   "Range", "Rows",      "Sections", "Selection", "System"};
   answers = {
       {"Application.ActivePrinter", {L"Kept"}},
       {"Application.BackgroundPrintingStatus", {1}},
@@ -31,6 +31,10 @@ FakeWord::FakeWord() {
       {"Documents.Add", {.object = "Document"}},
       {"Documents.Count", {0}},
       {"Documents.Open", {.object = "Document"}},
+      {"Cells.Count", {4}},
+      {"Find.Execute", {true}},
+      {"Footers.Exists", {true}},
+      {"Headers.Exists", {true}},
       {"Options.DefaultFilePath", {L"C:\\Documents"}},
       {"Range.Text", {L"0123456789"}},
       {"Range.[value]", {L"3456789"}},
@@ -40,7 +44,9 @@ FakeWord::FakeWord() {
       {"Section1.Range", {.object = "Range1"}},
       {"Section2.Range", {.object = "Range2"}},
       {"Section3.Range", {.object = "Range3"}},
+      {"Sections.Count", {3}},
       {"Sections.[newenum]", {.items = {"Section1", "Section2", "Section3"}}},
+      {"Selection.Information", {true}},
       {"Selection.Text", {L"chosen"}},
       {"System.HorizontalResolution", {1280}},
       {"System.VerticalResolution", {1024}},

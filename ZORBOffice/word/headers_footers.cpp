@@ -1,0 +1,111 @@
+// Sections, headers and footers.
+#include "ZORBOffice/word/opened_document.h"
+#include "ZORBOffice/word/replacement.h"
+#include "ZORBOffice/word/word_members.h"
+
+namespace zorboffice {
+namespace {
+
+constexpr LONG header_footer_types[] = {1, 2, 3};  // wdHeaderFooterPrimary, FirstPage, EvenPages
+constexpr LONG normal_style = -1;                  // wdStyleNormal
+constexpr LONG first_section = 1;
+
+constexpr const wchar_t* headers = L"Headers";
+constexpr const wchar_t* footers = L"Footers";
+
+// What the word processor itself says of a section that is not there.
+[[noreturn]] void throw_no_such_member() {
+  throw Failure{5941, Bstr(L"The requested member of the collection does not exist.")};
+}
+
+// Copies each header (or footer) that the source section has; a first-page or even-page one is switched on.
+void copy_each_type(const AutomationObject& source, const AutomationObject& destination,
+                    const wchar_t* kind) {
+  for (const LONG type : header_footer_types) {
+    const AutomationObject from = source.get(kind, type).object();
+    if (!from.get(L"Exists").flag()) continue;
+    const AutomationObject to = destination.get(kind, type).object();
+    if (!to.get(L"Exists").flag()) to.put(L"Exists", true);
+    const AutomationObject text = from.get(L"Range").get(L"FormattedText").object();
+    to.get(L"Range").put(L"FormattedText", Argument::object(text.dispatch()));
+  }
+}
+
+}  // namespace
+
+AutomationObject WordMembers::header_footer(LONG* Section, VARIANT_BOOL* IsHeader,
+                                            BYTE* HeaderFooterType) const {
+  return document()
+      .get(L"Sections", dereferenced(Section))
+      .get(flag(IsHeader) ? headers : footers, LONG{dereferenced(HeaderFooterType)})
+      .object();
+}
+
+HRESULT WordMembers::get_NumberOfSections(LONG* result) noexcept {
+  return trapped(result, none, [&] { return document().get(L"Sections").get(L"Count").int32(); });
+}
+
+HRESULT WordMembers::get_ReadHeaderFooterText(LONG* Section, VARIANT_BOOL* IsHeader, BYTE* HeaderFooterType,
+                                              LONG* StartPos, LONG* EndPos, BSTR* result) noexcept {
+  return trapped(result, message(L"Read h/f : "), [&] {
+    const LONG start = dereferenced(StartPos);
+    const LONG end = dereferenced(EndPos);
+    const AutomationObject read = header_footer(Section, IsHeader, HeaderFooterType);
+    if (!read.get(L"Exists").flag()) return Bstr();
+    const AutomationObject range = read.get(L"Range").object();
+    if (start > 0 || end > 0) {
+      const LONG last = end > 0 ? end : static_cast<LONG>(range.get(L"Text").text().view().size());
+      range.call(L"SetRange", start > 0 ? start : LONG{1}, last);
+    }
+    return range.get(L"Text").text();
+  });
+}
+
+HRESULT WordMembers::get_ReplaceHeaderFooter(LONG* Section, VARIANT_BOOL* IsHeader, BYTE* HeaderFooterType,
+                                             BSTR* SearchString, BSTR* ReplaceString, BYTE* WrapAction,
+                                             VARIANT_BOOL* SearchForward, VARIANT_BOOL*,
+                                             VARIANT_BOOL* MatchCase, VARIANT_BOOL* MatchWholeWord,
+                                             VARIANT_BOOL* MatchWildcards, VARIANT_BOOL* MatchSoundsLike,
+                                             VARIANT_BOOL* MatchAllWordForms, BYTE* ReplaceOption,
+                                             BYTE* result) noexcept {
+  const Replacement replacement{SearchString,      ReplaceString,  WrapAction,     SearchForward,
+                                MatchCase,         MatchWholeWord, MatchWildcards, MatchSoundsLike,
+                                MatchAllWordForms, ReplaceOption};
+  return trapped(result, message(L"Replace Header/Footer "), [&] {
+    const AutomationObject searched = header_footer(Section, IsHeader, HeaderFooterType);
+    if (!searched.get(L"Exists").flag()) throw_no_such_member();
+    return replacement.execute(searched.get(L"Range").get(L"Find").object());
+  });
+}
+
+HRESULT WordMembers::get_SetHeaderFooter(BSTR* SourceTemplate, BSTR* DestTemplate, Choice* ApplyHeader,
+                                         Choice* ApplyFooter, Choice* ApplyFont, BYTE* result) noexcept {
+  return trapped(result, message(L"Set Header/Footer "), [&] {
+    const bool copies_headers = is_chosen(ApplyHeader);
+    const bool copies_footers = is_chosen(ApplyFooter);
+    const bool copies_font = is_chosen(ApplyFont);
+    if (!copies_headers && !copies_footers && !copies_font) {
+      show_message(L"Nothing has been set to be changed!");
+      return false;
+    }
+    const AutomationObject held = application();
+    OpenedDocument source(held, dereferenced(SourceTemplate));
+    OpenedDocument destination(held, dereferenced(DestTemplate));
+
+    const AutomationObject source_section = source.document().get(L"Sections", first_section).object();
+    destination.document().get(L"Sections").object().for_each([&](const Result& section) {
+      if (copies_headers) copy_each_type(source_section, section.object(), headers);
+      if (copies_footers) copy_each_type(source_section, section.object(), footers);
+    });
+    if (copies_font) {
+      const AutomationObject font = source.document().get(L"Styles", normal_style).get(L"Font").object();
+      destination.document().get(L"Styles", normal_style).put(L"Font", Argument::object(font.dispatch()));
+    }
+    destination.document().call(L"Save");
+    destination.close();
+    source.close();
+    return true;
+  });
+}
+
+}  // namespace zorboffice
