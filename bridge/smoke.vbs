@@ -3,7 +3,7 @@
 '   cscript //nologo smoke.vbs FOLDER PDF-FOLDER      (Windows paths; the second as given to script/bridge)
 Option Explicit
 Dim folder, pdf_folder, files, fails, smiley, third, word, document, selection, texts, each_one
-Dim manager, desktop, component
+Dim manager, desktop, component, table, part, store_as, missing
 folder = WScript.Arguments(0) & "\"
 pdf_folder = WScript.Arguments(1) & "\"
 Set files = CreateObject("Scripting.FileSystemObject")
@@ -81,7 +81,57 @@ Set desktop = manager.createInstance("com.sun.star.frame.Desktop")
 Set component = desktop.loadComponentFromURL("private:factory/swriter", "_blank", 0, Array())
 component.getText().setString "In the suite " & smiley
 Check "suite's text", component.GetText().GetString(), "In the suite " & smiley
+' A letter with a table, for the word processor.
+Set table = component.createInstance("com.sun.star.text.TextTable")
+table.initialize 2, 2
+component.getText().setString "Dear NAME," & vbLf & "name and Name."
+component.getText().insertTextContent component.getText().getEnd(), table, False
+For Each part In table.getCellNames()
+  table.getCellByName(part).setString "NAME " & part
+Next
+Set store_as = manager.Bridge_GetStruct("com.sun.star.beans.PropertyValue")
+store_as.Name = "FilterName"
+store_as.Value = "MS Word 2007 XML"
+Remove folder & "letter.docx"
+component.storeToURL "file:///" & Replace(folder, "\", "/") & "letter.docx", Array(store_as)
 component.close True
+
+' Search: settings stay with the selection; every hit is selected, and one that reaches over cells is none.
+Set document = word.Documents.Open(folder & "letter.docx")
+Set selection = document.ActiveWindow.Selection
+selection.HomeKey 6
+With selection.Find
+  .ClearFormatting
+  .Text = "name"
+  .MatchCase = False
+  .MatchWholeWord = True
+  .Wrap = 0
+End With
+texts = ""
+Do While selection.Find.Execute()
+  texts = texts & selection.Start & selection.Text & " "
+Loop
+Check "hits", texts, "5NAME 11name 20Name 26NAME 34NAME 43NAME 51NAME "
+Check "search again", CStr(selection.Find.Execute("A?>", False, False, True, , , True, 1)) & selection.Text, "TrueA1"
+Check "no hit", selection.Find.Execute("A1*B1", False, False, True), False
+
+' Tables: the selection's row, the document's cells.
+Check "in the table", selection.Information(12), True
+Check "cells", selection.Rows(1).Cells.Count & selection.Rows(1).Cells(2).Range.Text, "2NAME B1" & vbCr & Chr(7)
+selection.SelectRow
+Check "row", selection.Text, Replace("NAME A1|NAME B1||", "|", vbCr & Chr(7))
+Check "home", selection.HomeKey(6) & selection.Information(12), "26False"
+Check "tables", document.Tables.Count & document.Tables(1).Cell(2, 1).Range.Text, "1NAME A2" & vbCr & Chr(7)
+
+' Replace: the next one, then all, with the arguments as the members pass them.
+Check "one", selection.Find.Execute("NAME", True, False, False, False, False, True, 1, False, "you", 1), True
+Check "replaced one", selection.Text & document.Range(0, 9).Text, "youDear you,"
+Check "all", selection.Find.Execute("name", False, False, False, False, False, True, 1, False, "<^&^t>", 2), True
+texts = Replace("|A1/|B1//|A2/|B2//", "|", "<NAME" & vbTab & "> ")
+texts = Replace(Replace(texts, "/", vbCr & Chr(7)), "/", vbCr & Chr(7))
+texts = "Dear you," & vbCr & "<name" & vbTab & "> and <Name" & vbTab & ">." & vbCr & texts & vbCr
+Check "replaced all", Replace(document.Range().Text, vbVerticalTab, vbCr), texts
+document.Close 0
 
 ' Failures come as the office programs number them.
 On Error Resume Next
@@ -91,6 +141,13 @@ document.Range 0, 9999
 CheckFailure "range beyond the end", 4608
 word.Documents.Open folder & "missing.docx"
 CheckFailure "missing file", 5174
+Set document = word.Documents.Add("")
+document.ActiveWindow.Selection.Find.Text = String(256, "x")
+CheckFailure "find text of 256 characters", 5854
+document.Range.Find.Execute "(", False, False, True
+CheckFailure "open group", 5560
+Set missing = document.ActiveWindow.Selection.Rows(1)
+CheckFailure "no row", 5941
 word.ActivePrinter = ""
 document.PrintOut
 CheckFailure "no printer", 5216

@@ -83,19 +83,23 @@ struct WordProcessorInterface : IDispatch {
   virtual HRESULT STDMETHODCALLTYPE get_NumberOfSections(LONG* result) noexcept = 0;
 
   // Reads a header's (IsHeader true) or footer's text of Section (counted from 1). HeaderFooterType:
-  // wdHeaderFooter Primary 1, FirstPage 2, EvenPages 3. Returns "" on failure. Trap: message "Read h/f : ".
+  // wdHeaderFooterPrimary 1, wdHeaderFooterFirstPage 2, wdHeaderFooterEvenPages 3. Both positions 0 or less:
+  // the whole text; otherwise the characters from StartPos (0 or less: 1) to EndPos (0 or less: the text's
+  // length). Returns "" where there is no such header or footer, and on failure. Trap: message "Read h/f : ".
   virtual HRESULT STDMETHODCALLTYPE get_ReadHeaderFooterText(LONG* Section, VARIANT_BOOL* IsHeader,
                                                              BYTE* HeaderFooterType, LONG* StartPos,
                                                              LONG* EndPos, BSTR* result) noexcept = 0;
 
   // Copies headers, footers and the normal style's font, each if chosen, from SourceTemplate to DestTemplate
-  // (paths). Trap: message "Set Header/Footer ".
+  // (paths; empty: the "Normal" template), and saves the latter. Neither may be open already. With no choice
+  // a message says so, and the answer is 0. On failure DestTemplate is unchanged. Trap: message "Set
+  // Header/Footer ". docs/headers-and-footers.md has it step by step.
   virtual HRESULT STDMETHODCALLTYPE get_SetHeaderFooter(BSTR* SourceTemplate, BSTR* DestTemplate,
                                                         Choice* ApplyHeader, Choice* ApplyFooter,
                                                         Choice* ApplyFont, BYTE* result) noexcept = 0;
 
-  // Replace, within one header or footer, chosen as in ReadHeaderFooterText. Trap: message "Replace
-  // Header/Footer ".
+  // Replace, within one header or footer, named as in ReadHeaderFooterText; one that does not exist is a
+  // failure. Trap: message "Replace Header/Footer ".
   virtual HRESULT STDMETHODCALLTYPE get_ReplaceHeaderFooter(
       LONG* Section, VARIANT_BOOL* IsHeader, BYTE* HeaderFooterType, BSTR* SearchString, BSTR* ReplaceString,
       BYTE* WrapAction, VARIANT_BOOL* SearchForward, VARIANT_BOOL* BeginAtTop, VARIANT_BOOL* MatchCase,

@@ -1,8 +1,8 @@
 #include "word_test.h"
 
-#include <algorithm>
 #include <utility>
 
+#include "support/late_call.h"
 #include "support/text.h"
 
 WordTest::~WordTest() {
@@ -20,23 +20,7 @@ void WordTest::make_ready() {
 }
 
 std::string WordTest::call(const wchar_t* member, Arguments arguments) {
-  DISPID identifier = DISPID_UNKNOWN;
-  auto* name = const_cast<wchar_t*>(member);
-  control_->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &identifier);
-  std::ranges::reverse(arguments);
-  DISPPARAMS parameters = {arguments.data(), nullptr, static_cast<UINT>(arguments.size()), 0};
-  _variant_t result;
-  EXCEPINFO raised = {};
-  const HRESULT called =
-      control_->Invoke(identifier, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD | DISPATCH_PROPERTYGET,
-                       &parameters, &result, &raised, nullptr);
-  const auto description = utf8(outside::take(raised.bstrDescription));
-  SysFreeString(raised.bstrSource);
-  SysFreeString(raised.bstrHelpFile);
-  if (called == S_OK) return describe(result);
-  char number[16];
-  snprintf(number, sizeof(number), "%08lX", called == DISP_E_EXCEPTION ? raised.scode : called);
-  return std::string("raised ") + number + " " + description;
+  return late_call(control_.Get(), member, std::move(arguments));
 }
 
 void WordTest::expect(const wchar_t* member, const Arguments& arguments, const std::string& result,

@@ -18,6 +18,7 @@ from word.binding import (
     PRINTER_ERROR,
     WordError,
     WordObject,
+    kept,
 )
 from word.document import Document
 
@@ -133,7 +134,7 @@ class WordSession:
         self._require()
         if not isinstance(item, Collection):
             raise Failure.member_not_found()
-        return item._all()
+        return item.all()
 
     def _require(self):
         if self.is_over:
@@ -144,7 +145,7 @@ class Documents(Collection):
     def __init__(self, session):
         self._session = session
 
-    def _all(self):
+    def all(self):
         return list(self._session.documents)
 
     def Item(self, Index):
@@ -200,22 +201,6 @@ class System(WordObject):
 
     HorizontalResolution = property(lambda self: self._screen[0])
     VerticalResolution = property(lambda self: self._screen[1])
-
-
-def kept(kind, initial, allowed=None):
-    """Return a property that is remembered and nothing else: there is no window that it could change."""
-    key = object()
-
-    def read(self):
-        value = self._kept.get(key, initial)
-        return Single(value) if kind is float else value
-
-    def write(self, value: kind):
-        if allowed and value not in allowed:
-            raise WordError(INCORRECT_VALUE)
-        self._kept[key] = value
-
-    return property(read, write)
 
 
 class Application(WordObject):

@@ -12,7 +12,8 @@ from failures import (
     UnoException,
     text_of,
 )
-from handles import MISSING, NoSuchMember
+from handles import MISSING, NoSuchMember, Single
+from word.places import units
 
 # The numbers and texts of the word processor itself.
 BAD_PARAMETER = (4120, "Bad parameter.")
@@ -30,6 +31,7 @@ BAD_PATH = (5273, "The document name or path is not valid.")
 CORRUPT_FILE = (5792, "The file appears to be corrupted.")
 OBJECT_DELETED = (5825, "Object has been deleted.")
 INCORRECT_VALUE = (5843, "One of the values passed to this method or property is incorrect.")
+STRING_TOO_LONG = (5854, "String parameter too long.")
 NO_MEMBER = (5941, "The requested member of the collection does not exist.")
 
 
@@ -64,18 +66,38 @@ class Collection(WordObject):
 
     DEFAULT = "Item"
 
-    def _all(self):
+    def all(self):
+        """Return all items."""
         raise NotImplementedError
 
     @property
     def Count(self):
-        return len(self._all())
+        return len(self.all())
 
     def Item(self, Index: int):
-        items = self._all()
+        items = self.all()
         if not 1 <= Index <= len(items):
             raise WordError(NO_MEMBER)
         return items[Index - 1]
+
+
+def kept(kind, initial, allowed=None, longest=None):
+    """Return a property that is remembered in the object's _kept, and nothing else: a setting, or the state of
+    a window that is not there."""
+    key = object()
+
+    def read(self):
+        value = self._kept.get(key, initial)
+        return Single(value) if kind is float else value
+
+    def write(self, value: kind):
+        if allowed and value not in allowed:
+            raise WordError(INCORRECT_VALUE)
+        if longest and units(value) > longest:
+            raise WordError(STRING_TOO_LONG)
+        self._kept[key] = value
+
+    return property(read, write)
 
 
 def parameters(item, name):

@@ -16,9 +16,11 @@ from word.binding import (
     WordError,
     WordObject,
 )
-from word.ranges import Range, Sections
+from word.flow import MainFlow
+from word.ranges import Range
+from word.sections import Sections
 from word.selection import Selection
-from word.story import Story
+from word.tables import Tables
 
 DO_NOT_SAVE, SAVE = 0, -1  # WdSaveOptions of the object model; -2 would ask somebody.
 
@@ -62,7 +64,7 @@ class Document(WordObject):
         self.session = session
         self._model = model
         self._name = name  # While the document has no file.
-        self._story = None
+        self.main = MainFlow(self)
         self._selection = None
         # Without a layout for every keystroke a text of any length is typed at once; what needs lines or
         # pages asks for them by laid_out().
@@ -79,9 +81,7 @@ class Document(WordObject):
 
     def story(self):
         """Return the main text as it is now."""
-        if self._story is None:
-            self._story = Story(self.model)
-        return self._story
+        return self.main.story()
 
     def selection(self):
         """Return the selection of the document's one window."""
@@ -90,8 +90,8 @@ class Document(WordObject):
         return self._selection
 
     def touch(self):
-        """Take note that the text has changed."""
-        self._story = None
+        """Take note that the main text has changed."""
+        self.main.touch()
 
     def laid_out(self):
         """Return a context in which LibreOffice keeps the document's layout up to date."""
@@ -139,8 +139,12 @@ class Document(WordObject):
     def Sections(self):
         return Sections(self)
 
+    @property
+    def Tables(self):
+        return Tables(self.main)
+
     def Range(self, Start: int = None, End: int = None):
-        return Range(self, 0 if Start is None else Start, len(self.story()) if End is None else End)
+        return Range(self.main, 0 if Start is None else Start, len(self.story()) if End is None else End)
 
     def Activate(self):
         self.session.activate(self)

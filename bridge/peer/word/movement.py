@@ -3,7 +3,7 @@
 import contextlib
 
 from word.binding import BAD_PARAMETER, NOT_AVAILABLE, WordError
-from word.story import LONGEST_STEP, cell_of, text_cursor
+from word.places import LONGEST_STEP, cell_of, text_cursor
 
 # WdUnits of the object model.
 CHARACTER, WORD, SENTENCE, PARAGRAPH, LINE, STORY, SECTION, CELL = 1, 2, 3, 4, 5, 6, 8, 12
@@ -74,13 +74,12 @@ class Movement:
 
     def _step_story(self, direction, _):
         before = self._position()
-        body = self._model.getText()
-        self._cursor.gotoRange(body.getEnd() if direction > 0 else body.getStart(), False)
+        self._cursor.gotoRange(self._document.story().end_of_text(at_end=direction > 0), False)
         return int(self._position() != before)
 
     def _step_section(self, direction, _):
         story, here = self._document.story(), self._position()
-        targets = story.section_starts + [len(story) - 1]
+        targets = story.section_starts() + [len(story) - 1]
         targets = [each for each in targets if (each > here if direction > 0 else each < here)]
         if targets:
             self._cursor.gotoRange(story.place(min(targets) if direction > 0 else max(targets)), False)
@@ -120,7 +119,7 @@ class Movement:
                 raise WordError(NOT_AVAILABLE)
             holder = place.getText()
         elif unit == STORY:
-            holder = self._model.getText()
+            return self._document.story().end_of_text(at_end)
         elif unit == LINE:
             self._cursor.gotoRange(place, False)
             with self._document.laid_out():

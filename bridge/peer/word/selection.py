@@ -1,25 +1,24 @@
 """The selection of a document's window: LibreOffice's view cursor with the word processor's rules."""
 
-import uno
-
 from word.binding import (
     BAD_PARAMETER,
     COMMAND_FAILED,
+    NOT_AVAILABLE,
     NO_CLIPBOARD,
     NO_SELECTION,
     WordError,
     WordObject,
 )
-from word.movement import CELL, CHARACTER, LINE, Movement, PARAGRAPH, SENTENCE, WORD
+from word.find import Find
+from word.flow import put
+from word.movement import CELL, CHARACTER, LINE, Movement, PARAGRAPH, SENTENCE, STORY, WORD
+from word.places import cell_of, distance, text_cursor
 from word.ranges import Paragraphs, Range
-from word.story import cell_of, distance, text_cursor, units
+from word.tables import rows_between
 
 GO_TO_LINE = 3
 GO_TO_ABSOLUTE, GO_TO_RELATIVE, GO_TO_PREVIOUS, GO_TO_LAST = 1, 2, 3, -1
-
-# What LibreOffice's paragraphs can hold of the characters below the blank; one of the others makes it drop a
-# whole insertion.
-TYPED = {code: None for code in range(32)} | {9: "\t", 10: "\n", 12: "\f", 13: "\r"}
+WITHIN_TABLE = 12  # WdInformation of the object model.
 
 
 class Selection(WordObject):
@@ -32,6 +31,7 @@ class Selection(WordObject):
         self._movement = Movement(document, self._cursor)
         self._moves_start = False  # Which end an extension moves.
         self._exact = None  # The selected positions, where they hold a mark that no cursor can span.
+        self._find = Find(self)
 
     # Text
 
@@ -51,7 +51,7 @@ class Selection(WordObject):
     @Text.setter
     def Text(self, value: str):
         start = self.Start
-        self.select(start, self.replace(start, self.End, value))
+        self.go_to(start, self.flow.replace(start, self.End, value))
 
     @property
     def Start(self):
@@ -63,18 +63,37 @@ class Selection(WordObject):
 
     @property
     def Range(self):
-        return Range(self._document, self.Start, self.End)
+        return Range(self.flow, self.Start, self.End)
 
     @property
     def Paragraphs(self):
-        return Paragraphs(self._document, self.Start, self.End)
+        return Paragraphs(self.flow, self.Start, self.End)
+
+    @property
+    def Find(self):
+        return self._find
+
+    @property
+    def Rows(self):
+        return rows_between(self.flow, self.Start, self.End)
+
+    def SelectRow(self):
+        rows = self.Rows.all()
+        if not rows:
+            raise WordError(NOT_AVAILABLE)
+        self.go_to(rows[0].Range.Start, rows[-1].Range.End)
+
+    def Information(self, Type: int):
+        if Type != WITHIN_TABLE:
+            raise WordError(BAD_PARAMETER)
+        return cell_of(self._cursor) is not None
 
     def TypeText(self, Text: str):
         """Put text in place of the selection; the insertion point stands behind it afterwards."""
-        self._forget()
-        if not self._cursor.isCollapsed():
-            self._cursor.setString("")
-        self._insert(Text)
+        self.flow.touch()
+        cursor = text_cursor(self._cursor)
+        put(cursor, Text)
+        self._cursor.gotoRange(cursor.getEnd(), False)
 
     def Cut(self):
         if self._cursor.isCollapsed():
@@ -89,8 +108,14 @@ class Selection(WordObject):
 
     # Movement
 
+    def HomeKey(self, Unit: int = LINE, Extend: int = 0):
+        return self._go_to_edge(Unit, Extend, at_end=False)
+
+    def EndKey(self, Unit: int = LINE, Extend: int = 0):
+        return self._go_to_edge(Unit, Extend, at_end=True)
+
     def Move(self, Unit: int = CHARACTER, Count: int = 1):
-        self._forget()
+        self.forget()
         self._collapse(at_end=Count > 0)
         return self._movement.advance(Unit, Count)
 
@@ -106,7 +131,7 @@ class Selection(WordObject):
 
     def StartOf(self, Unit: int = WORD, Extend: int = 0):
         """Move to the beginning of a unit; the result is the number of characters moved, not above 0."""
-        self._forget()
+        self.forget()
         target, end = self._movement.edge(Unit, self._cursor.getStart(), at_end=False), self._cursor.getEnd()
         moved = distance(target, self._cursor.getStart())
         self._cursor.gotoRange(target, False)
@@ -116,7 +141,7 @@ class Selection(WordObject):
 
     def EndOf(self, Unit: int = WORD, Extend: int = 0):
         """Move to the end of a unit, which for a paragraph lies behind its mark, but never out of a cell."""
-        self._forget()
+        self.forget()
         start, end = self._cursor.getStart(), self._cursor.getEnd()
         target = self._movement.edge(Unit, end, at_end=True)
         moved = distance(end, target)
@@ -133,7 +158,7 @@ class Selection(WordObject):
         """Go to a line; other targets are not offered. A line beyond the last is the last."""
         if What != GO_TO_LINE or Name:
             raise WordError(BAD_PARAMETER)
-        self._forget()
+        self.forget()
         if Which in (GO_TO_ABSOLUTE, GO_TO_LAST):
             body = self._model.getText()
             self._cursor.gotoRange(body.getEnd() if Which == GO_TO_LAST else body.getStart(), False)
@@ -146,41 +171,43 @@ class Selection(WordObject):
 
     # For the other objects of the document
 
-    def select(self, start, end):
+    @property
+    def flow(self):
+        """The text that is selected in, which is the main text."""
+        return self._document.main
+
+    def go_to(self, start, end):
         """Select the text between two positions."""
         first, last, is_whole = self._document.story().span(start, end)
         self._cursor.gotoRange(first, False)
         self._cursor.gotoRange(last, True)
         self._exact = None if is_whole or start == end else (start, end)
 
-    def replace(self, start, end, text):
-        """Put text between two positions and return the position of its end; the selection stays."""
-        first, last, _ = self._document.story().span(start, end)
-        first.gotoRange(last, True)
-        first.setString("")
-        behind = units(self._model.getText().getString())
-        self._forget()
-        self._insert(text, first)
-        return start + units(self._model.getText().getString()) - behind
+    def adapt(self, _):
+        """Keep to the same text after replacements, which the office's own cursor does."""
+
+    def forget(self):
+        """Take note that what is selected is what the office's cursor spans, and no more."""
+        self._exact = None
 
     # Helpers
 
-    def _forget(self):
-        self._exact = None
-
-    def _insert(self, text, cursor=None):
-        cursor = cursor or self._cursor
-        self._document.touch()
-        text = text.replace("\r\n", "\r").replace("\n", "\r").replace("\v", "\n").translate(TYPED)
-        text = text.encode("utf-16-le", "surrogatepass").decode("utf-16-le", "replace")
-        for index, piece in enumerate(text.split("\f")):
-            if index:
-                cursor.getText().insertString(cursor, "\r", False)
-                text_cursor(cursor).BreakType = uno.Enum("com.sun.star.style.BreakType", "PAGE_BEFORE")
-            cursor.getText().insertString(cursor, piece, False)
+    def _go_to_edge(self, unit, extend, at_end):
+        """Go to the beginning or the end of the line or of the text; the result is the number of positions."""
+        if unit not in (LINE, STORY):
+            raise WordError(BAD_PARAMETER)
+        start, end = self.Start, self.End
+        self.forget()
+        target = self._movement.edge(unit, self._cursor.getEnd() if at_end else self._cursor.getStart(), at_end)
+        to = self._document.story().position(target)
+        if extend:
+            self.go_to(start if at_end else to, to if at_end else end)
+        else:
+            self._cursor.gotoRange(target, False)
+        return abs(to - (end if at_end else start))
 
     def _dispatch(self, command):
-        self._forget()
+        self.forget()
         helper = self._document.session.service("com.sun.star.frame.DispatchHelper")
         frame = self._model.getCurrentController().getFrame()
         done = helper.executeDispatch(frame, command, "", 0, ())
@@ -200,7 +227,7 @@ class Selection(WordObject):
     def _move(self, unit, count, extend):
         """Move by units, backward for a negative count; the result is the signed number of units."""
         exact = self._exact
-        self._forget()
+        self.forget()
         if count == 0:
             return 0
         forward = count > 0

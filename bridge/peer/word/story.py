@@ -1,51 +1,15 @@
-"""A document's main text as the word processor counts it.
+"""A text of a document as the word processor counts it: the main text, or that of a header or a footer.
 
 One position is one UTF-16 unit, one paragraph mark, one end-of-cell or one end-of-row mark. A mark that ends
-a section is a form feed, a manual line break a vertical tab. LibreOffice has no such count, so the text is
-read once after every change and cut into blocks: a run of paragraphs, or the contents of a cell."""
+a section is a form feed, a manual line break a vertical tab. LibreOffice has no such count, so a text is read
+once after every change and cut into blocks: a run of paragraphs, or the contents of a cell."""
 
+import bisect
+import collections
+import itertools
 import re
 
-import uno
-
-from failures import UnoException
-
-UNIT = "utf-16-le"
-LONGEST_STEP = 32767  # Cursors take their distance as a 16-bit number.
-
-
-def units(text):
-    """Return how many positions a text takes."""
-    return len(text.encode(UNIT, "surrogatepass")) // 2
-
-
-def text_cursor(place):
-    """Return a text cursor of the place's own text that spans the place."""
-    return place.getText().createTextCursorByRange(place)
-
-
-def go_right(cursor, steps, extend):
-    """Move a cursor by any number of characters; False when the text ends before."""
-    while steps > 0:
-        if not cursor.goRight(min(steps, LONGEST_STEP), extend):
-            return False
-        steps -= LONGEST_STEP
-    return True
-
-
-def distance(start, end):
-    """Return the number of positions between two places of the same text."""
-    cursor = text_cursor(start)
-    cursor.collapseToStart()
-    cursor.gotoRange(end, True)
-    return units(cursor.getString())
-
-
-def cell_of(place):
-    """Return the table and the name of the cell that hold the place, or None outside tables."""
-    cursor = text_cursor(place)
-    cell = cursor.getPropertyValue("Cell")
-    return (cursor.getPropertyValue("TextTable"), cell.CellName) if cell else None
+from word.places import UNIT, cell_of, cross, distance, text_cursor, units
 
 
 class Block:
@@ -55,37 +19,63 @@ class Block:
         self.anchor = anchor  # Where LibreOffice has that first character.
         self.cell = cell  # The names of table and cell, or None.
 
+    @property
+    def end(self):
+        return self.start + self.length
+
+
+class TableSpan:
+    """Where a table lies. A row is the list of its cells' spans; a cell's span ends behind its mark."""
+
+    def __init__(self, item, start, is_nested):
+        self.item = item  # LibreOffice's table.
+        self.start = start
+        self.end = start
+        self.is_nested = is_nested
+        self.rows = []
+
 
 class Story:
-    """One reading of the main text; out of date after the next change."""
+    """One reading of a text; out of date after the next change. Without a text it is the one paragraph mark of
+    a header that LibreOffice has not switched on."""
 
-    def __init__(self, model):
-        self._model = model
+    def __init__(self, text=None):
         self._blocks = []
-        self._text = ""
-        body = model.getText()
-        if model.getTextTables().getCount() == 0:
-            self._add(body.getStart(), self._paragraphs_without_tables(body) + "\r", None)
+        self._blocks_of_cell = collections.defaultdict(list)
+        self._pieces = []
+        self._length = 0
+        self.tables = {}  # By LibreOffice's name, in the order of the text.
+        self._source = text
+        self._as_read = text.getString() if text else ""
+        if text is None:
+            self._put("\r")
         else:
-            self._read(body, None)
-        self._units = bytearray(self._text.encode(UNIT, "surrogatepass"))
-        self.section_starts = self._mark_sections()
+            self._read_all(text)
+        self._units = bytearray("".join(self._pieces).encode(UNIT, "surrogatepass"))
+        self._starts = [block.start for block in self._blocks]
+
+    def _read_all(self, text):
+        self._read(text, None)
+
+    def is_current(self):
+        """Tell whether the fields in the text still read as they did: a layout changes page numbers."""
+        return self._source is None or self._source.getString() == self._as_read
 
     def __len__(self):
         return len(self._units) // 2
 
     def text(self, start, end):
         """Return the text between two positions; the marks of cells and rows read as two characters."""
-        return self._units[2 * start : 2 * end].decode(UNIT, "replace").replace("\a", "\r\a")
+        return self.characters(start, end).replace("\a", "\r\a")
 
-    def sections(self):
-        """Return the first and the last position of every section."""
-        return list(zip(self.section_starts, self.section_starts[1:] + [len(self)], strict=True))
+    def characters(self, start=0, end=None):
+        """Return the text between two positions; every mark is one character."""
+        return self._units[2 * start : None if end is None else 2 * end].decode(UNIT, "replace")
 
     def paragraphs(self, start, end):
         """Return the spans of the paragraphs that the range touches, each with its mark."""
         marks = re.compile("[\r\a\f]")
-        text = self._units.decode("utf-16-le", "replace")
+        text = self.characters()
         if len(text) != len(self):  # Characters of two units: count units, not characters.
             text = "".join("xx" if each > "\uffff" else each for each in text)
         ends = [mark.end() for mark in marks.finditer(text)]
@@ -93,69 +83,55 @@ class Story:
         return [span for span in spans if span[0] <= start < span[1] or start < span[0] < end]
 
     def position(self, place):
-        """Return the position at which a place of the main text or of its tables begins."""
+        """Return the position at which a place of this text or of its tables begins."""
         place = place.getStart()
         cell = cell_of(place)
-        key = cell and (cell[0].getName(), cell[1])
-        blocks = [block for block in self._blocks if block.cell == key]
+        blocks = self._blocks_of_cell.get(cell and (cell[0].getName(), cell[1]), ())
         compare = place.getText().compareRegionStarts
-        while len(blocks) > 1 and compare(blocks[-1].anchor, place) < 0:
-            blocks.pop()
-        return blocks[-1].start + min(distance(blocks[-1].anchor, place), blocks[-1].length)
+        # The last block that does not begin behind the place; the office says 1 for what begins before.
+        index = bisect.bisect(blocks, 0, lo=1, key=lambda block: -compare(block.anchor, place))
+        block = blocks[index - 1]
+        return block.start + min(distance(block.anchor, place), block.length)
+
+    def block(self, position):
+        """Return the block that holds a position."""
+        return self._blocks[max(bisect.bisect(self._starts, position) - 1, 0)]
 
     def place(self, position):
         """Return a text cursor at a position; a position behind a mark that LibreOffice cannot go behind is
         taken as the one before the mark."""
-        block = self._block(position)
-        offset = min(position - block.start, block.length)
+        block = self.block(position)
         cursor = text_cursor(block.anchor)
-        before = self._units[2 * block.start : 2 * (block.start + offset)].decode(UNIT, "replace")
-        go_right(cursor, len(before), True)
-        # A field is one step for a cursor, but as long as its text.
-        while (reached := units(cursor.getString())) > offset and cursor.goLeft(1, True):
-            pass
-        while reached < offset and cursor.goRight(1, True):
-            reached = units(cursor.getString())
+        cross(cursor, self.characters(block.start, min(position, block.end)))
         cursor.collapseToEnd()
         return cursor
+
+    def end_of_text(self, at_end):
+        """Return a text cursor before the first or behind the last character, in a table or not."""
+        return self.place(len(self) - 1 if at_end else 0)
 
     def span(self, start, end):
         """Return text cursors for both ends of a range, and whether all between them can be selected: the
         mark at the end of a block cannot, nor anything behind it from before it."""
-        block = self._block(start)
-        last = min(end, block.start + block.length)
+        last = min(end, self.block(start).end)
         return self.place(start), self.place(max(start, last)), last >= end
 
-    def _block(self, position):
-        return next(block for block in reversed(self._blocks) if block.start <= position)
+    def table_at(self, position):
+        """Return the innermost table that holds a position, or None outside tables."""
+        holding = [table for table in self.tables.values() if table.start <= position < table.end]
+        return max(holding, key=lambda table: table.start, default=None)
+
+    # Reading
+
+    def _put(self, text):
+        self._pieces.append(text)
+        self._length += units(text)
 
     def _add(self, anchor, text, cell):
-        start = units(self._text)
-        self._blocks.append(Block(start, units(text.rstrip("\a")) - (not text.endswith("\a")), anchor, cell))
-        self._text += text
-
-    def _paragraphs_without_tables(self, body):
-        text = body.getString()
-        if self._find(r"\n").getCount() == 0:
-            return text.replace("\n", "\r")
-        # The text alone does not tell line breaks from paragraphs.
-        cursor = body.createTextCursor()
-        cursor.gotoStart(False)
-        paragraphs = []
-        while True:
-            cursor.gotoEndOfParagraph(True)
-            paragraphs.append(cursor.getString().replace("\n", "\v"))
-            if not cursor.gotoNextParagraph(False):
-                return "\r".join(paragraphs)
-
-    def _find(self, expression, attributes=()):
-        descriptor = self._model.createSearchDescriptor()
-        descriptor.SearchRegularExpression = True
-        descriptor.SearchString = expression
-        if attributes:
-            descriptor.ValueSearch = False
-            descriptor.setSearchAttributes(attributes)
-        return self._model.findAll(descriptor)
+        block = Block(self._length, units(text) - 1, anchor, cell)
+        self._blocks.append(block)
+        self._blocks_of_cell[cell].append(block)
+        self._put(text)
 
     def _read(self, text, cell):
         """Add a text with its tables; cell is the names of the table and the cell that hold it."""
@@ -167,36 +143,27 @@ class Story:
                 if paragraphs:
                     self._add(anchor, "\r".join(paragraphs) + "\r", cell)
                     paragraphs = []
-                self._read_table(item)
+                self._read_table(item, is_nested=cell is not None)
             else:
                 anchor = anchor if paragraphs else item.getStart()
                 paragraphs.append(item.getString().replace("\n", "\v"))
         self._add(anchor, "\r".join(paragraphs) + ("\a" if cell else "\r"), cell)
 
-    def _read_table(self, table):
-        row = None
-        for name in table.getCellNames():
-            number = re.search(r"\d+$", name)[0]
-            if row not in (None, number):
-                self._text += "\a"
-            row = number
-            self._read(table.getCellByName(name), (table.getName(), name))
-        self._text += "\a"
+    def _read_table(self, item, is_nested):
+        table = self.tables[item.getName()] = TableSpan(item, self._length, is_nested)
+        for _, names in itertools.groupby(item.getCellNames(), lambda name: re.search(r"\d+$", name)[0]):
+            row = []
+            for name in names:
+                start = self._length
+                self._read_cell(item.getCellByName(name), (item.getName(), name))
+                row.append((start, self._length))
+            table.rows.append(row)
+            self._put("\a")
+        table.end = self._length
 
-    def _mark_sections(self):
-        """Return where sections begin: a paragraph that sets a page style of its own begins one."""
-        attribute = uno.createUnoStruct("com.sun.star.beans.PropertyValue")
-        attribute.Name, attribute.Value = "PageDescName", ""
-        starts = {0}
-        found = self._find("", (attribute,))
-        for index in range(found.getCount()):
-            try:
-                place = found.getByIndex(index)
-                if text_cursor(place).PageDescName:  # The search also finds the attribute without a value.
-                    starts.add(self.position(place))
-            except (UnoException, IndexError):
-                pass  # In a header, a footer or a frame.
-        for start in starts - {0}:
-            if self._units[2 * start - 2 : 2 * start] == "\r".encode(UNIT):
-                self._units[2 * start - 2 : 2 * start] = "\f".encode(UNIT)
-        return sorted(starts)
+    def _read_cell(self, cell, names):
+        text = cell.getString()
+        if "\n" in text:  # Several paragraphs, a line break or a table.
+            self._read(cell, names)
+        else:
+            self._add(cell.getStart(), text + "\a", names)

@@ -1,0 +1,108 @@
+// ZORBWord over LibreOffice: what finding, replacing and tables do to a real document, and what the user is
+// told.
+#include "outside/library.h"
+#include "support/late_call.h"
+#include "support/message_boxes.h"
+
+namespace {
+
+using Arguments = std::vector<_variant_t>;
+
+class Office : public testing::Test {
+ protected:
+  Office() {
+    EXPECT_EQ(call(L"Start"), "ui1 1");
+    EXPECT_EQ(call(L"CreateDoc"), "ui1 1");
+  }
+  ~Office() {
+    call(L"StopWord", {true});
+    EXPECT_TRUE(boxes_.take().empty());
+  }
+
+  std::string call(const wchar_t* member, const Arguments& arguments = {}) {
+    return late_call(control_.Get(), member, arguments);
+  }
+
+  std::string box() {
+    const auto seen = boxes_.take();
+    return seen.size() == 1 ? seen[0].text : seen.empty() ? "" : "several";
+  }
+
+  MessageBoxes boxes_;
+  Microsoft::WRL::ComPtr<IDispatch> control_ = outside::create(outside::classes[0]);
+};
+
+const std::wstring longest(255, L'x'), too_long(256, L'x');
+
+// With BeginAtTop and the given match flags: case, whole word, wildcards.
+struct Finding {
+  std::wstring text;
+  const char* result;
+  const char* selected = nullptr;
+  bool match_case = false, whole_word = false, wildcards = false;
+  const char* message = "";
+};
+
+TEST_F(Office, FindsAndSelects) {
+  call(L"SendText", {(L"Alpha beta alphabet. 10^2 (net)\rlast " + longest).c_str()});
+  const Finding rows[] = {
+      {L"beta", "ui1 1", "bstr \"beta\""},
+      {L"alpha", "ui1 1", "bstr \"Alpha\""},
+      {L"alpha", "ui1 1", "bstr \"alpha\"", true},
+      {L"alphabet", "ui1 1", "bstr \"alphabet\"", false, true},
+      {L"alph", "ui1 0", nullptr, false, true},
+      {L"gamma", "ui1 0"},
+      {L"", "ui1 0"},
+      {L"10^^2", "ui1 1", "bstr \"10^2\""},
+      {L")^pl", "ui1 1", "bstr \")\rl\""},
+      {L"b?t", "ui1 0"},
+      {L"b?t", "ui1 1", "bstr \"bet\"", false, false, true},
+      {L"[0-9]{2}", "ui1 1", "bstr \"10\"", false, false, true},
+      {longest, "ui1 1"},
+      {too_long, "ui1 0", nullptr, false, false, false, "Search String parameter too long."},
+  };
+  for (const Finding& row : rows) {
+    SCOPED_TRACE(row.text);
+    const Arguments arguments = {row.text.c_str(), 1, true, true, row.match_case, row.whole_word,
+                                 row.wildcards};
+    EXPECT_EQ(call(L"Search", arguments), row.result);
+    EXPECT_EQ(box(), row.message);
+    if (row.selected) {
+      EXPECT_EQ(call(L"SelectionText"), row.selected);
+    }
+  }
+}
+
+TEST_F(Office, SearchesOnFromTheSelectionOrFromTheTop) {
+  const Arguments on = {L"one", 0}, from_top = {L"one", 0, true, true};
+  call(L"SendText", {L"one two one"});
+  EXPECT_EQ(call(L"Search", on), "ui1 0") << "the selection is at the end";
+  EXPECT_EQ(call(L"Search", from_top), "ui1 1");
+  EXPECT_EQ(call(L"Search", on), "ui1 1");
+  EXPECT_EQ(call(L"Search", on), "ui1 0");
+}
+
+TEST_F(Office, ReplacesNoneOneOrAll) {
+  const std::pair<int, const char*> rows[] = {
+      {0, "bstr \"a b a b a\r\""}, {1, "bstr \"c b a b a\r\""}, {2, "bstr \"c b c b c\r\""}};
+  call(L"SendText", {L"a b a b a"});
+  for (const auto& [option, text] : rows) {
+    SCOPED_TRACE(option);
+    call(L"Search", {L"a", 1, true, true});
+    call(L"CursorLeft", {1});
+    EXPECT_EQ(call(L"Replace", {L"a", L"c", 1, true, true, false, false, false, false, false, option}),
+              "ui1 1");
+    EXPECT_EQ(call(L"ReadText", {0, 0}), text);
+  }
+  EXPECT_EQ(call(L"Replace", {L"a", L"c"}), "ui1 0");
+  EXPECT_EQ(call(L"Replace", {too_long.c_str(), L"c"}), "ui1 0");
+  EXPECT_EQ(box(), "") << "Replace fails in silence";
+}
+
+TEST_F(Office, TellsWhatIsNotInATable) {
+  EXPECT_EQ(call(L"InTable"), "ui1 0");
+  EXPECT_EQ(call(L"CellCount"), "i4 0");
+  EXPECT_EQ(box(), "CellCount The requested member of the collection does not exist.");
+}
+
+}  // namespace
