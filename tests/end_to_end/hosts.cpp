@@ -1,171 +1,105 @@
 // Drives ZORBWord from C++ and writes what each member answered, bound late (by name) or early (by vtable).
 // Every host must write the same lines. Usage: cpp_host late|early FOLDER SPECIAL
 #include <windows.h>
-#include <oleauto.h>
+#include <comutil.h>
 
 #include <cstdio>
 #include <cstring>
+#include <regex>
 #include <string>
-#include <vector>
 
-#include "ZORBOffice/common/bstr.h"
-#include "ZORBOffice/common/com_ptr.h"
-#include "ZORBOffice/common/variant.h"
 #include "ZORBOffice/surface/identifiers.h"
 #include "ZORBOffice/surface/word_processor_interface.h"
+#include "outside/library.h"
+#include "support/fake_object.h"
+#include "support/late_call.h"
+#include "support/text.h"
 
 namespace {
 
-using zorboffice::Bstr;
-using zorboffice::ComPtr;
-using zorboffice::Variant;
+using Arguments = std::vector<_variant_t>;
+using Microsoft::WRL::ComPtr;
 using zorboffice::WordProcessorInterface;
-
-Variant value(VARTYPE type, LONG number) {
-  Variant variant;
-  V_VT(&variant.get()) = VT_I4;
-  V_I4(&variant.get()) = number;
-  VariantChangeType(&variant.get(), &variant.get(), 0, type);
-  return variant;
-}
-
-Variant value(const std::wstring& text) {
-  Variant variant;
-  V_VT(&variant.get()) = VT_BSTR;
-  V_BSTR(&variant.get()) = Bstr(text).release();
-  return variant;
-}
-
-Variant missing() {
-  Variant variant;
-  V_VT(&variant.get()) = VT_ERROR;
-  V_ERROR(&variant.get()) = DISP_E_PARAMNOTFOUND;
-  return variant;
-}
 
 std::wstring special;
 
-void replace(std::wstring& text, const std::wstring& part, const wchar_t* with) {
-  if (const std::size_t position = text.find(part); position != std::wstring::npos) {
-    text.replace(position, part.size(), with);
+// Writes an answer as the scripts do: without the variant kind, and a failure by its number. StopWord answers
+// nothing, and the hosts write what it raised.
+void say(const std::string& member, std::string answer) {
+  if (answer.starts_with("raised ")) {
+    answer = std::to_string(std::stoul(answer.substr(7, 8), nullptr, 16) & 0xFFFF) + answer.substr(15);
+  } else if (member == "StopWord") {
+    answer = "0 ";
   }
+  answer = std::regex_replace(answer, std::regex("^(empty|(ui1|i2|i4|bool|bstr) )|\""), "");
+  answer = std::regex_replace(answer, std::regex("\r"), "\\r");
+  answer = std::regex_replace(answer, std::regex(utf8(special)), "<special>");
+  std::printf("%s: %s\n", member.c_str(), answer.c_str());
 }
 
-void say(const char* member, const Variant& answer) {
-  Variant text;
-  VariantChangeType(&text.get(), const_cast<VARIANT*>(&answer.get()), 0, VT_BSTR);
-  std::wstring line(zorboffice::view(V_BSTR(&text.get())));
-  replace(line, L"\r", L"\\r");
-  replace(line, special, L"<special>");
-  std::printf("%s: %ls\n", member, line.c_str());
+void say(IDispatch* word, const std::string& member, const Arguments& arguments = {}) {
+  say(member, late_call(word, std::wstring(member.begin(), member.end()).c_str(), arguments));
 }
-
-class LateHost {
- public:
-  explicit LateHost(IDispatch* word) : word_(word) {}
-
-  template <class... Arguments>
-  void operator()(const char* member, Arguments... arguments) {
-    std::vector<VARIANT> list = {arguments.release()...};
-    for (std::size_t i = 0; i < list.size() / 2; ++i) std::swap(list[i], list[list.size() - 1 - i]);
-    const std::wstring name(member, member + std::strlen(member));
-    LPOLESTR names[] = {const_cast<LPOLESTR>(name.c_str())};
-    DISPID id = DISPID_UNKNOWN;
-    word_->GetIDsOfNames(IID_NULL, names, 1, LOCALE_USER_DEFAULT, &id);
-    DISPPARAMS parameters{list.data(), nullptr, static_cast<UINT>(list.size()), 0};
-    Variant result;
-    EXCEPINFO raised{};
-    const HRESULT status =
-        word_->Invoke(id, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD | DISPATCH_PROPERTYGET, &parameters,
-                      result.receive(), &raised, nullptr);
-    const bool may_raise = name == L"InTable" || name == L"StopWord";
-    if (status == DISP_E_EXCEPTION) {
-      say(member, value(std::to_wstring(raised.scode & 0xFFFF) + L" " + raised.bstrDescription));
-    } else if (FAILED(status)) {
-      std::printf("%s: failed with %08lX\n", member, status);
-    } else {
-      say(member, may_raise ? value(L"0 ") : std::move(result));
-    }
-    for (VARIANT& argument : list) VariantClear(&argument);
-  }
-
- private:
-  IDispatch* word_;
-};
 
 void drive_late(IDispatch* word, const std::wstring& path, const std::wstring& text) {
-  LateHost call(word);
-  call("Start");
-  call("CreateDoc");
-  call("SendText", value(text));
-  call("CursorLeft", value(VT_I2, 5), value(VT_I2, 1), value(VT_I4, 1));
-  call("SelectionText");
-  call("Cut");
-  call("ReadText", value(VT_I4, 0), value(VT_I4, 0));
-  call("Paste");
-  call("ReadText", value(VT_I4, 1), value(VT_R8, 3));
-  call("CursorLeft", value(L"3"), missing(), value(VT_I2, 0));
-  say("units", value(L"3"));
-  call("SendText", value(L"-"));
-  call("ReadText", value(VT_I4, 0), value(VT_I4, 0));
-  call("GotoLine", value(VT_I2, 1));
-  call("SelectParagraph");
-  call("SelectionText");
-  call("SaveDoc", value(path));
-  call("CloseDoc");
-  call("OpenDoc", value(path));
-  call("ReadText", value(VT_I4, 0), value(VT_I4, 0));
-  call("IsPrinting");
-  call("CloseDoc", value(VT_I2, 0));
-  call("GotoLine", value(VT_I2, 1));
-  call("InTable");
-  call("StopWord", value(VT_BOOL, 0));
-  call("StopWord", value(VT_BOOL, 1));
-  call("GetLastErrorNumber");
-  call("GetLastErrorDescription");
+  const _variant_t file(path.c_str());
+  const Arguments everything = {0L, 0L};
+  say(word, "Start");
+  say(word, "CreateDoc");
+  say(word, "SendText", {text.c_str()});
+  say(word, "CursorLeft", {5, 1, 1});
+  say(word, "SelectionText");
+  say(word, "Cut");
+  say(word, "ReadText", everything);
+  say(word, "Paste");
+  say(word, "ReadText", {1L, 3.0});
+  const _variant_t missing(DISP_E_PARAMNOTFOUND, VT_ERROR);
+  say(word, "CursorLeft", {L"3", missing, 0});
+  std::puts("units: 3");
+  say(word, "SendText", {L"-"});
+  say(word, "ReadText", everything);
+  say(word, "GotoLine", {1});
+  say(word, "SelectParagraph");
+  say(word, "SelectionText");
+  say(word, "SaveDoc", {file});
+  say(word, "CloseDoc");
+  say(word, "OpenDoc", {file});
+  say(word, "ReadText", everything);
+  say(word, "IsPrinting");
+  say(word, "CloseDoc", {0});
+  say(word, "GotoLine", {1});
+  say(word, "NumberOfSections");
+  say(word, "StopWord", {false});
+  say(word, "StopWord", {true});
+  say(word, "GetLastErrorNumber");
+  say(word, "GetLastErrorDescription");
 }
 
 class EarlyHost {
  public:
   explicit EarlyHost(WordProcessorInterface* word) : word_(word) {}
 
-  template <class Method, class... Arguments>
-  void byte(const char* member, Method method, Arguments... arguments) {
-    BYTE result = 9;
-    const HRESULT status = (word_->*method)(arguments..., &result);
-    report(member, status, value(VT_I4, result));
-  }
-
-  template <class Method, class... Arguments>
-  void text(const char* member, Method method, Arguments... arguments) {
-    Variant result;
-    V_VT(&result.get()) = VT_BSTR;
-    const HRESULT status = (word_->*method)(arguments..., &V_BSTR(&result.get()));
-    report(member, status, std::move(result));
-  }
-
-  template <class Method, class... Arguments>
-  void number(const char* member, Method method, Arguments... arguments) {
-    SHORT result = 9;
-    const HRESULT status = (word_->*method)(arguments..., &result);
-    report(member, status, value(VT_I4, result));
-  }
-
-  template <class Method, class... Arguments>
-  void nothing(const char* member, Method method, Arguments... arguments) {
-    Variant result;
-    const HRESULT status = (word_->*method)(arguments..., result.receive());
-    const bool may_raise = std::strcmp(member, "StopWord") == 0;
-    report(member, status, may_raise ? value(L"0 ") : std::move(result));
+  // Calls a member whose result is of the C++ type Result, shown as a variant of the type `type`.
+  template <class Result, class Method, class... Parameters>
+  void call(const std::string& member, VARTYPE type, Method method, Parameters... parameters) {
+    Result result{};
+    const HRESULT status = (word_->*method)(parameters..., &result);
+    if (FAILED(status)) return say(member, raised(status));
+    VARIANT answer{};
+    V_VT(&answer) = type;
+    std::memcpy(&V_UI1(&answer), &result, type == VT_EMPTY ? 0 : sizeof result);
+    say(member, describe(answer));
+    VariantClear(&answer);
   }
 
  private:
-  static void report(const char* member, HRESULT status, Variant answer) {
-    if (SUCCEEDED(status)) return say(member, answer);
+  static std::string raised(HRESULT status) {
     ComPtr<IErrorInfo> information;
-    Bstr description;
-    if (GetErrorInfo(0, information.receive()) == S_OK) information->GetDescription(description.receive());
-    say(member, value(std::to_wstring(status & 0xFFFF) + L" " + std::wstring(description.view())));
+    BSTR description = nullptr;
+    if (GetErrorInfo(0, &information) == S_OK) information->GetDescription(&description);
+    char number[16];
+    std::snprintf(number, sizeof number, "%08lX ", status);
+    return std::string("raised ") + number + utf8(outside::take(description));
   }
 
   WordProcessorInterface* word_;
@@ -174,58 +108,44 @@ class EarlyHost {
 void drive_early(WordProcessorInterface* word, const std::wstring& path, const std::wstring& text) {
   using I = WordProcessorInterface;
   EarlyHost host(word);
-  VARIANT_BOOL no = VARIANT_FALSE;
-  VARIANT_BOOL yes = VARIANT_TRUE;
-  SHORT zero = 0;
-  SHORT one = 1;
-  SHORT five = 5;
-  SHORT units = 3;
-  LONG start = 0;
-  LONG end = 0;
-  Bstr empty;
-  Bstr typed(text);
-  Bstr dash(L"-");
-  Bstr file(path);
-  BSTR empty_text = empty.get();
-  BSTR typed_text = typed.get();
-  BSTR dash_text = dash.get();
-  BSTR file_text = file.get();
-  Variant move = value(VT_I2, 0);
-  Variant extend = value(VT_I4, 1);
+  VARIANT_BOOL no = VARIANT_FALSE, yes = VARIANT_TRUE;
+  SHORT zero = 0, one = 1, five = 5, units = 3;
+  LONG start = 0, end = 0;
+  const _bstr_t typed(text.c_str()), dash(L"-"), file(path.c_str());
+  BSTR empty_text = nullptr, typed_text = typed, dash_text = dash, file_text = file;
+  _variant_t move(0), extend(1);
 
-  host.byte("Start", &I::get_Start, &no);
-  host.byte("CreateDoc", &I::get_CreateDoc, &empty_text);
-  host.byte("SendText", &I::get_SendText, &typed_text);
-  host.nothing("CursorLeft", &I::CursorLeft, &five, &one, &extend.get());
-  host.text("SelectionText", &I::get_SelectionText);
-  host.nothing("Cut", &I::Cut);
-  host.text("ReadText", &I::get_ReadText, &start, &end);
-  host.nothing("Paste", &I::Paste);
+  host.call<BYTE>("Start", VT_UI1, &I::get_Start, &no);
+  host.call<BYTE>("CreateDoc", VT_UI1, &I::get_CreateDoc, &empty_text);
+  host.call<BYTE>("SendText", VT_UI1, &I::get_SendText, &typed_text);
+  host.call<VARIANT>("CursorLeft", VT_EMPTY, &I::CursorLeft, &five, &one, &extend);
+  host.call<BSTR>("SelectionText", VT_BSTR, &I::get_SelectionText);
+  host.call<VARIANT>("Cut", VT_EMPTY, &I::Cut);
+  host.call<BSTR>("ReadText", VT_BSTR, &I::get_ReadText, &start, &end);
+  host.call<VARIANT>("Paste", VT_EMPTY, &I::Paste);
   start = 1;
   end = 3;
-  host.text("ReadText", &I::get_ReadText, &start, &end);
-  host.nothing("CursorLeft", &I::CursorLeft, &units, &one, &move.get());
-  say("units", value(VT_I4, units));
-  host.byte("SendText", &I::get_SendText, &dash_text);
+  host.call<BSTR>("ReadText", VT_BSTR, &I::get_ReadText, &start, &end);
+  host.call<VARIANT>("CursorLeft", VT_EMPTY, &I::CursorLeft, &units, &one, &move);
+  std::printf("units: %d\n", units);
+  host.call<BYTE>("SendText", VT_UI1, &I::get_SendText, &dash_text);
   start = end = 0;
-  host.text("ReadText", &I::get_ReadText, &start, &end);
-  host.number("GotoLine", &I::GotoLine, &one);
-  host.nothing("SelectParagraph", &I::SelectParagraph);
-  host.text("SelectionText", &I::get_SelectionText);
-  host.nothing("SaveDoc", &I::SaveDoc, &file_text);
-  host.nothing("CloseDoc", &I::CloseDoc, &zero);
-  host.byte("OpenDoc", &I::get_OpenDoc, &file_text);
-  host.text("ReadText", &I::get_ReadText, &start, &end);
-  host.number("IsPrinting", &I::IsPrinting);
-  host.nothing("CloseDoc", &I::CloseDoc, &zero);
-  host.number("GotoLine", &I::GotoLine, &one);
-  host.byte("InTable", &I::get_InTable);
-  host.nothing("StopWord", &I::StopWord, &no);
-  host.nothing("StopWord", &I::StopWord, &yes);
-  LONG number = 9;
-  word->get_GetLastErrorNumber(&number);
-  say("GetLastErrorNumber", value(VT_I4, number));
-  host.text("GetLastErrorDescription", &I::get_GetLastErrorDescription);
+  host.call<BSTR>("ReadText", VT_BSTR, &I::get_ReadText, &start, &end);
+  host.call<SHORT>("GotoLine", VT_BOOL, &I::GotoLine, &one);
+  host.call<VARIANT>("SelectParagraph", VT_EMPTY, &I::SelectParagraph);
+  host.call<BSTR>("SelectionText", VT_BSTR, &I::get_SelectionText);
+  host.call<VARIANT>("SaveDoc", VT_EMPTY, &I::SaveDoc, &file_text);
+  host.call<VARIANT>("CloseDoc", VT_EMPTY, &I::CloseDoc, &zero);
+  host.call<BYTE>("OpenDoc", VT_UI1, &I::get_OpenDoc, &file_text);
+  host.call<BSTR>("ReadText", VT_BSTR, &I::get_ReadText, &start, &end);
+  host.call<SHORT>("IsPrinting", VT_I2, &I::IsPrinting);
+  host.call<VARIANT>("CloseDoc", VT_EMPTY, &I::CloseDoc, &zero);
+  host.call<SHORT>("GotoLine", VT_BOOL, &I::GotoLine, &one);
+  host.call<LONG>("NumberOfSections", VT_I4, &I::get_NumberOfSections);
+  host.call<VARIANT>("StopWord", VT_EMPTY, &I::StopWord, &no);
+  host.call<VARIANT>("StopWord", VT_EMPTY, &I::StopWord, &yes);
+  host.call<LONG>("GetLastErrorNumber", VT_I4, &I::get_GetLastErrorNumber);
+  host.call<BSTR>("GetLastErrorDescription", VT_BSTR, &I::get_GetLastErrorDescription);
 }
 
 }  // namespace
@@ -237,15 +157,12 @@ int wmain(int count, wchar_t** arguments) {
   special = arguments[3];
   const std::wstring text = L"One two " + special + L" three";
   CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED);
-  {
-    CLSID class_id{};
-    CLSIDFromProgID(L"ZORBOffice.ZORBWord", &class_id);
-    ComPtr<WordProcessorInterface> word;
-    const HRESULT created = CoCreateInstance(class_id, nullptr, CLSCTX_INPROC_SERVER,
-                                             zorboffice::zorb_word_interface_id, word.receive_void());
-    if (FAILED(created)) return std::printf("not created: %08lX\n", created), 1;
-    early ? drive_early(word.get(), path, text) : drive_late(word.get(), path, text);
-  }
-  CoUninitialize();
+  ComPtr<WordProcessorInterface> word;
+  CLSID class_id{};
+  CLSIDFromProgID(L"ZORBOffice.ZORBWord", &class_id);
+  const HRESULT created =
+      CoCreateInstance(class_id, nullptr, CLSCTX_INPROC_SERVER, zorboffice::zorb_word_interface_id, &word);
+  if (FAILED(created)) return std::printf("not created: %08lX\n", created), 1;
+  early ? drive_early(word.Get(), path, text) : drive_late(word.Get(), path, text);
   return 0;
 }

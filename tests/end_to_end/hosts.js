@@ -43,7 +43,7 @@ say("ReadText", word.ReadText(0, 0));
 say("IsPrinting", word.IsPrinting());
 say("CloseDoc", word.CloseDoc(0));
 say("GotoLine", word.GotoLine(1));
-failure("InTable", function () { word.InTable(); });
+failure("NumberOfSections", function () { return word.NumberOfSections(); });
 failure("StopWord", function () { word.StopWord(false); });
 failure("StopWord", function () { word.StopWord(true); });
 say("GetLastErrorNumber", word.GetLastErrorNumber());

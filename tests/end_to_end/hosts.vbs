@@ -1,5 +1,5 @@
 ' Drives ZORBWord and writes what each member answered. Every host must write the same lines.
-Dim word, units, path, special
+Dim word, units, path, special, i
 path = WScript.Arguments(0) & "\vbs.docx"
 special = WScript.Arguments(1)
 
@@ -29,8 +29,8 @@ Say "IsPrinting", word.IsPrinting
 Say "CloseDoc", word.CloseDoc(0)
 Say "GotoLine", word.GotoLine(1)
 On Error Resume Next
-word.InTable
-Say "InTable", Err.Number & " " & Err.Description
+i = word.NumberOfSections
+Say "NumberOfSections", Err.Number & " " & Err.Description
 Err.Clear
 word.StopWord False
 Say "StopWord", Err.Number & " " & Err.Description
