@@ -92,18 +92,21 @@ HRESULT WordMembers::get_SetHeaderFooter(BSTR* SourceTemplate, BSTR* DestTemplat
     OpenedDocument source(held, dereferenced(SourceTemplate));
     OpenedDocument destination(held, dereferenced(DestTemplate));
 
-    const AutomationObject source_section = source.document().get(L"Sections", first_section).object();
-    destination.document().get(L"Sections").object().for_each([&](const Result& section) {
-      if (copies_headers) copy_each_type(source_section, section.object(), headers);
-      if (copies_footers) copy_each_type(source_section, section.object(), footers);
-    });
+    if (copies_headers || copies_footers) {
+      const AutomationObject source_section = source.document().get(L"Sections", first_section).object();
+      destination.document().get(L"Sections").object().for_each([&](const Result& section) {
+        if (copies_headers) copy_each_type(source_section, section.object(), headers);
+        if (copies_footers) copy_each_type(source_section, section.object(), footers);
+      });
+    }
     if (copies_font) {
       const AutomationObject font = source.document().get(L"Styles", normal_style).get(L"Font").object();
       destination.document().get(L"Styles", normal_style).put(L"Font", Argument::object(font.dispatch()));
     }
+    // The source first: what fails before the saving leaves the destination's file as it was.
+    source.close();
     destination.document().call(L"Save");
     destination.close();
-    source.close();
     return true;
   });
 }

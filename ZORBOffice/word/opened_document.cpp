@@ -1,7 +1,5 @@
 #include "ZORBOffice/word/opened_document.h"
 
-#include <utility>
-
 namespace zorboffice {
 namespace {
 
@@ -12,11 +10,14 @@ constexpr LONG do_not_save_changes = 0;  // wdDoNotSaveChanges
 OpenedDocument::OpenedDocument(const AutomationObject& application, BSTR name) {
   const bool normal = view(name).empty();
   const Bstr path = normal ? application.get(L"NormalTemplate").get(L"FullName").text() : Bstr(view(name));
-  document_ = application.get(L"Documents").get(L"Open", path).object();
+  const AutomationObject documents = application.get(L"Documents").object();
+  const LONG open_before = documents.get(L"Count").int32();
+  document_ = documents.get(L"Open", path).object();
+  // The word processor answers a file that is open already with the document that shows it.
+  must_close_ = documents.get(L"Count").int32() > open_before;
 }
 
 OpenedDocument::~OpenedDocument() {
-  if (!document_) return;
   try {
     close();
   } catch (...) {
@@ -24,6 +25,9 @@ OpenedDocument::~OpenedDocument() {
   }
 }
 
-void OpenedDocument::close() { std::exchange(document_, {}).call(L"Close", do_not_save_changes); }
+void OpenedDocument::close() {
+  if (must_close_) document_.call(L"Close", do_not_save_changes);
+  must_close_ = false;
+}
 
 }  // namespace zorboffice

@@ -5,7 +5,7 @@
 
 namespace zorboffice {
 
-// Closes what it opened, unsaved, however the member ends.
+// Closes what it opened, unsaved, however the member ends. A document that was open already stays open.
 class OpenedDocument {
  public:
   // Opens the file; an empty name means the application's "Normal" template. Throws Failure.
@@ -16,11 +16,12 @@ class OpenedDocument {
 
   const AutomationObject& document() const { return document_; }
 
-  // Closes without saving; throws Failure, and does not try again.
+  // Closes without saving; throws Failure, and is tried once more at the end.
   void close();
 
  private:
   AutomationObject document_;
+  bool must_close_ = false;
 };
 
 }  // namespace zorboffice
