@@ -41,6 +41,14 @@ void say(IDispatch* word, const std::string& member, const Arguments& arguments 
   say(member, late_call(word, std::wstring(member.begin(), member.end()).c_str(), arguments));
 }
 
+// A host's variable, as script engines pass it.
+_variant_t by_reference(VARIANT* variable) {
+  VARIANT reference{};
+  V_VT(&reference) = VT_BYREF | VT_VARIANT;
+  V_VARIANTREF(&reference) = variable;
+  return _variant_t(reference, false);
+}
+
 void drive_late(IDispatch* word, const std::wstring& path, const std::wstring& text) {
   const _variant_t file(path.c_str());
   const Arguments everything = {0L, 0L};
@@ -54,8 +62,9 @@ void drive_late(IDispatch* word, const std::wstring& path, const std::wstring& t
   say(word, "Paste");
   say(word, "ReadText", {1L, 3.0});
   const _variant_t missing(DISP_E_PARAMNOTFOUND, VT_ERROR);
-  say(word, "CursorLeft", {L"3", missing, 0});
-  std::puts("units: 3");
+  _variant_t units(L"3");
+  say(word, "CursorLeft", {by_reference(&units), missing, 0});
+  say("units", describe(units));
   say(word, "SendText", {L"-"});
   say(word, "ReadText", everything);
   say(word, "GotoLine", {1});

@@ -99,6 +99,32 @@ TEST_F(Office, ReplacesNoneOneOrAll) {
   EXPECT_EQ(box(), "") << "Replace fails in silence";
 }
 
+TEST_F(Office, ReplacesWhateverTheTextHolds) {
+  struct {
+    std::wstring text, by;
+    bool wildcards;
+    const char* result;
+    const char* left;
+  } const rows[] = {
+      {longest, L"long", false, "ui1 1", "bstr \"long a^b 12\r\""},
+      {too_long, L"y", false, "ui1 0", "bstr \"long a^b 12\r\""},
+      {L"", L"y", false, "ui1 0", "bstr \"long a^b 12\r\""},
+      {L"a^^b", L"c^^d", false, "ui1 1", "bstr \"long c^d 12\r\""},
+      {L" ^^", L"", false, "ui1 0", "bstr \"long c^d 12\r\""},
+      {L"c", L"^&^&", false, "ui1 1", "bstr \"long cc^d 12\r\""},
+      {L"([0-9])([0-9])", L"\\2\\1", true, "ui1 1", "bstr \"long cc^d 21\r\""},
+      {L"long", L"", false, "ui1 1", "bstr \" cc^d 21\r\""},
+  };
+  call(L"SendText", {(longest + L" a^b 12").c_str()});
+  for (const auto& row : rows) {
+    SCOPED_TRACE(row.text);
+    const Arguments arguments = {row.text.c_str(), row.by.c_str(), 1,     true, true, false, false,
+                                 row.wildcards,    false,          false, 2};
+    EXPECT_EQ(call(L"Replace", arguments), row.result);
+    EXPECT_EQ(call(L"ReadText", {0, 0}), row.left);
+  }
+}
+
 TEST_F(Office, TellsWhatIsNotInATable) {
   EXPECT_EQ(call(L"InTable"), "ui1 0");
   EXPECT_EQ(call(L"CellCount"), "i4 0");

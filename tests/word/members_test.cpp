@@ -117,12 +117,17 @@ const auto searched = [](const std::string& top, const std::string& settings) {
          "call Find.ClearFormatting" + std::regex_replace(settings, std::regex(";"), fetched + "put Find.") +
          fetched + "get Find.Execute";
 };
-const std::string plain =
-    R"(;Text=bstr "a";Forward=bool -1;Wrap=ui1 1;Format=bool 0;MatchCase=bool 0;MatchWholeWord=bool 0)"
-    ";MatchWildcards=bool 0;MatchSoundsLike=bool 0;MatchAllWordForms=bool 0";
-const std::string every =
-    R"(;Text=bstr "";Forward=bool 0;Wrap=ui1 2;Format=bool 0;MatchCase=bool -1;MatchWholeWord=bool -1)"
-    ";MatchWildcards=bool -1;MatchSoundsLike=bool -1;MatchAllWordForms=bool -1";
+std::string put(const std::string& name, bool value) { return ";" + name + "=bool " + (value ? "-1" : "0"); }
+// Text, direction and wrap, then the five match flags.
+std::string settings(const std::string& start, bool letters, bool word, bool wildcards, bool sound,
+                     bool forms) {
+  return start + put("Format", false) + put("MatchCase", letters) + put("MatchWholeWord", word) +
+         put("MatchWildcards", wildcards) + put("MatchSoundsLike", sound) + put("MatchAllWordForms", forms);
+}
+const std::string forward_a = R"(;Text=bstr "a";Forward=bool -1;Wrap=ui1 1)",
+                  back = R"(;Text=bstr "";Forward=bool 0;Wrap=ui1 2)";
+const std::string plain = settings(forward_a, false, false, false, false, false);
+
 _variant_t null_value() {
   _variant_t value;
   value.ChangeType(VT_NULL);
@@ -134,23 +139,49 @@ const std::pair<const std::string, Answer> chosen = {"ActiveWindow.Selection", {
                                            miss = {"Find.Execute", {false}},
                                            null = {"Find.Execute", {null_value()}};
 
-const std::string one =
-    R"(get Find.Execute(&bstr "a", &bool 0, &bool 0, &bool 0, &bool 0, &bool 0, &bool -1, &ui1 1, bool 0)"
-    R"(, &bstr "b", &ui1 1))";
-const std::string all =
-    R"(get Find.Execute(&bstr "a", &bool -1, &bool 0, &bool -1, &bool 0, &bool -1, &bool 0, &ui1 0, bool 0)"
-    R"(, &bstr "b", &ui1 2))";
+std::string replaced(bool letters, bool word, bool wildcards, bool sound, bool forms, bool forward,
+                     const std::string& wrap, const std::string& option) {
+  std::string step = "get Find.Execute(&bstr \"a\"";
+  for (const bool flag : {letters, word, wildcards, sound, forms, forward})
+    step += flag ? ", &bool -1" : ", &bool 0";
+  return step + ", &ui1 " + wrap + ", bool 0, &bstr \"b\", &ui1 " + option + ")";
+}
+const std::string one = replaced(false, false, false, false, false, true, "1", "1");
+const std::string all = replaced(true, false, true, false, true, false, "0", "2");
 const std::string selected = "get Selection.Find | ";
 
 const Row search[] = {
     {L"Search", {L"a"}, "ui1 1", searched("", plain), {chosen}},
     {L"Search", {L"a", 1, true, true}, "ui1 1", searched(from_top, plain), {chosen}},
-    {L"Search", {L"", 2, false, false, true, true, true, true, true}, "ui1 1", searched("", every), {chosen}},
+    // Between them these rows tell each flag from every other.
+    {L"Search",
+     {L"", 2, false, false, true, false, true, false, true},
+     "ui1 1",
+     searched("", settings(back, true, false, true, false, true)),
+     {chosen}},
+    {L"Search",
+     {L"a", 1, true, false, false, true, true, false, false},
+     "ui1 1",
+     searched("", settings(forward_a, false, true, true, false, false)),
+     {chosen}},
+    {L"Search",
+     {L"a", 1, true, false, false, false, false, true, true},
+     "ui1 1",
+     searched("", settings(forward_a, false, false, false, true, true)),
+     {chosen}},
     {L"Search", {L"a"}, "ui1 0", searched("", plain), {chosen, miss}},
     {L"Search", {L"a"}, "ui1 0", searched("", plain), {chosen, null}},
     {L"Replace", {L"a", L"b"}, "ui1 1", selected + one},
     {L"Replace", {L"a", L"b", 1, true, false}, "ui1 1", selected + one},
     {L"Replace", {L"a", L"b", 0, false, true, true, false, true, false, true, 2}, "ui1 1", selected + all},
+    {L"Replace",
+     {L"a", L"b", 1, true, true, false, true, true},
+     "ui1 1",
+     selected + replaced(false, true, true, false, false, true, "1", "1")},
+    {L"Replace",
+     {L"a", L"b", 1, true, true, false, false, false, true, true},
+     "ui1 1",
+     selected + replaced(false, false, false, true, true, true, "1", "1")},
     {L"Replace", {L"a", L"b"}, "ui1 0", selected + one, {miss}},
     {L"Replace", {L"a", L"b"}, "ui1 0", selected + one, {null}},
 };
