@@ -3,7 +3,7 @@
 '   cscript //nologo smoke.vbs FOLDER PDF-FOLDER      (Windows paths; the second as given to script/bridge)
 Option Explicit
 Dim folder, pdf_folder, files, fails, smiley, third, word, document, selection, texts, each_one
-Dim manager, desktop, component, table, part, store_as, missing
+Dim manager, desktop, component, table, part, style, store_as, header, copied, missing
 folder = WScript.Arguments(0) & "\"
 pdf_folder = WScript.Arguments(1) & "\"
 Set files = CreateObject("Scripting.FileSystemObject")
@@ -89,6 +89,12 @@ component.getText().insertTextContent component.getText().getEnd(), table, False
 For Each part In table.getCellNames()
   table.getCellByName(part).setString "NAME " & part
 Next
+Set style = component.getStyleFamilies().getByName("PageStyles").getByName("Standard")
+style.HeaderIsOn = True
+style.HeaderText.setString "Head of NAME"
+Set part = style.HeaderText.createTextCursor()
+part.gotoEnd True
+part.CharWeight = 150
 Set store_as = manager.Bridge_GetStruct("com.sun.star.beans.PropertyValue")
 store_as.Name = "FilterName"
 store_as.Value = "MS Word 2007 XML"
@@ -127,11 +133,60 @@ Check "tables", document.Tables.Count & document.Tables(1).Cell(2, 1).Range.Text
 Check "one", selection.Find.Execute("NAME", True, False, False, False, False, True, 1, False, "you", 1), True
 Check "replaced one", selection.Text & document.Range(0, 9).Text, "youDear you,"
 Check "all", selection.Find.Execute("name", False, False, False, False, False, True, 1, False, "<^&^t>", 2), True
-texts = Replace("|A1/|B1//|A2/|B2//", "|", "<NAME" & vbTab & "> ")
-texts = Replace(Replace(texts, "/", vbCr & Chr(7)), "/", vbCr & Chr(7))
-texts = "Dear you," & vbCr & "<name" & vbTab & "> and <Name" & vbTab & ">." & vbCr & texts & vbCr
+texts = "Dear you,!<name*> and <Name*>.!<NAME*> A1/<NAME*> B1//<NAME*> A2/<NAME*> B2//!"
+texts = Replace(Replace(Replace(texts, "!", vbCr), "*", vbTab), "/", vbCr & Chr(7))
 Check "replaced all", Replace(document.Range().Text, vbVerticalTab, vbCr), texts
+
+' Sections, headers and footers: what was replaced in the main text was not in them.
+Check "sections", document.Sections.Count, 1
+Set part = document.Sections(1)
+Check "all of the text", part.Range.Text, document.Range().Text
+Set header = part.Headers(1).Range
+Check "header", header.Text, "Head of NAME" & vbCr
+Check "in the header", header.Find.Execute("name", , , , , , , 1, , "Customer", 2), True
+header.SetRange 5, 16
+Check "part of the header", header.Text, "of Customer"
+Check "no footer yet", part.Footers(1).Exists & part.Footers(1).Range.Text, "True" & vbCr
+part.Footers(1).Range.Text = "Foot"
+Check "first page", part.Headers(2).Exists & document.PageSetup.DifferentFirstPageHeaderFooter, "False0"
+document.PageSetup.DifferentFirstPageHeaderFooter = -1
+part.Headers(2).Range.Text = "First"
+Check "its own", part.Headers(2).Exists & part.Headers(1).Range.Text, "TrueHead of Customer" & vbCr
+document.Save
 document.Close 0
+
+' From one document into another: a header with its formatting, and the normal style's font.
+Set document = word.Documents.Open(folder & "letter.docx", , True)
+Set copied = word.NormalTemplate.OpenAsDocument()
+Set part = document.Sections(1)
+Check "saved", part.Headers(2).Range.Text & part.Footers(1).Range.Text, "First" & vbCr & "Foot" & vbCr
+Set header = copied.Sections(1).Headers(1).Range
+Set header.FormattedText = part.Headers(1).Range.FormattedText
+header.Find.Execute "Customer", , , , , , , , , "Somebody", 1
+Set copied.Styles(-1).Font = document.Styles(-1).Font
+With copied.Styles(-1).Font
+  .Name = "Liberation Mono"
+  .Size = 10.5
+  .Bold = -1
+End With
+Remove folder & "copied.docx"
+copied.SaveAs folder & "copied.docx"
+copied.Close 0
+document.Close 0
+Set copied = word.Documents.Open(folder & "copied.docx")
+Check "copied header", copied.Sections(1).Headers(1).Range.Text, "Head of Somebody" & vbCr
+With copied.Styles("Normal").Font
+  Check "font", .Name & .Size & .Bold & .Italic, "Liberation Mono10.5-10"
+End With
+Check "template", copied.AttachedTemplate, "Normal.dotx"
+copied.Close 0
+store_as.Name = "Hidden"
+store_as.Value = True
+each_one = "file:///" & Replace(folder, "\", "/") & "copied.docx"
+Set component = desktop.loadComponentFromURL(each_one, "_blank", 0, Array(store_as))
+Set style = component.getStyleFamilies().getByName("PageStyles").getByName("Standard")
+Check "copied formatting", style.HeaderText.createTextCursor().CharWeight, 150
+component.close True
 
 ' Failures come as the office programs number them.
 On Error Resume Next
@@ -146,6 +201,10 @@ document.ActiveWindow.Selection.Find.Text = String(256, "x")
 CheckFailure "find text of 256 characters", 5854
 document.Range.Find.Execute "(", False, False, True
 CheckFailure "open group", 5560
+Set missing = document.Sections(2)
+CheckFailure "no section", 5941
+Set missing = document.Sections(1).Headers(3).Range
+CheckFailure "no header for even pages", 5941
 Set missing = document.ActiveWindow.Selection.Rows(1)
 CheckFailure "no row", 5941
 word.ActivePrinter = ""

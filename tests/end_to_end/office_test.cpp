@@ -1,5 +1,7 @@
 // ZORBWord over LibreOffice: what finding, replacing and tables do to a real document, and what the user is
 // told.
+#include <gmock/gmock.h>
+
 #include "outside/library.h"
 #include "support/late_call.h"
 #include "support/message_boxes.h"
@@ -123,6 +125,61 @@ TEST_F(Office, ReplacesWhateverTheTextHolds) {
     EXPECT_EQ(call(L"Replace", arguments), row.result);
     EXPECT_EQ(call(L"ReadText", {0, 0}), row.left);
   }
+}
+
+// The demo's template has a header, a footer and a table.
+std::wstring template_path() {
+  wchar_t path[MAX_PATH];
+  GetModuleFileNameW(nullptr, path, MAX_PATH);
+  const std::wstring file = path;
+  return file.substr(0, file.rfind(L"\\build\\")) + L"\\examples\\letters.dotx";
+}
+
+TEST_F(Office, ReadsTablesSectionsHeadersAndFooters) {
+  const _variant_t file(template_path().c_str());
+  ASSERT_EQ(call(L"CreateDoc", {file}), "ui1 1");
+  EXPECT_EQ(call(L"Search", {L"<<Amount>>", 1, true, true}), "ui1 1");
+  EXPECT_EQ(call(L"InTable"), "ui1 1");
+  EXPECT_EQ(call(L"CellCount"), "i4 3");
+  EXPECT_EQ(call(L"CellText", {1}), "bstr \"<<Number>>\r\a\"");
+  EXPECT_EQ(call(L"CellText", {4}), "bstr \"\"");
+  EXPECT_EQ(box(), "CellText The requested member of the collection does not exist.");
+  EXPECT_EQ(call(L"SelectRow"), "empty");
+  EXPECT_EQ(call(L"SelectionText"), "bstr \"<<Number>>\r\a<<Amount>>\r\a<<Due>>\r\a\r\a\"");
+  EXPECT_EQ(call(L"NumberOfSections"), "i4 1");
+  EXPECT_EQ(call(L"ReadHeaderFooterText", {1, true, 1, 0, 0}),
+            "bstr \"Account statement for customer <<Number>>\r\"");
+  EXPECT_EQ(call(L"ReadHeaderFooterText", {1, false, 1, 0, 4}), "bstr \"ent\"");
+  EXPECT_EQ(call(L"ReadHeaderFooterText", {1, true, 3, 0, 0}), "bstr \"\"");
+  EXPECT_EQ(box(), "");
+  EXPECT_EQ(call(L"ReplaceHeaderFooter", {2, true, 1, L"a", L"b"}), "ui1 0");
+  EXPECT_EQ(box(), "Replace Header/Footer The requested member of the collection does not exist.");
+}
+
+TEST_F(Office, CopiesHeadersAndFootersIntoAnotherFile) {
+  wchar_t folder[MAX_PATH];
+  GetTempPathW(MAX_PATH, folder);
+  const _variant_t source(template_path().c_str()),
+      target((std::wstring(folder) + L"zorb_target.docx").c_str());
+  call(L"SendText", {L"body"});
+  call(L"SaveDoc", {target});
+  call(L"CloseDoc");
+  EXPECT_EQ(call(L"SetHeaderFooter", {source, target, true, true, true}), "ui1 1");
+  EXPECT_EQ(box(), "");
+  EXPECT_EQ(call(L"OpenDoc", {target}), "ui1 1");
+  EXPECT_EQ(call(L"ReadText", {0, 0}), "bstr \"body\r\"");
+  EXPECT_THAT(call(L"ReadHeaderFooterText", {1, true, 1, 0, 0}),
+              testing::StartsWith("bstr \"Account statement for customer <<Number>>\r"));
+  EXPECT_THAT(call(L"ReadHeaderFooterText", {1, false, 1, 0, 0}),
+              testing::StartsWith("bstr \"Sent to <<Name>>"));
+  call(L"CloseDoc");
+  EXPECT_EQ(call(L"SetHeaderFooter", {source, L"C:\\missing.docx", true, false, false}), "ui1 0");
+  EXPECT_THAT(box(), testing::StartsWith("Set Header/Footer "));
+  EXPECT_EQ(call(L"StopWord", {false}), "empty") << "nothing is left open";
+  EXPECT_EQ(call(L"SetActive", {true}), "ui1 0");
+  EXPECT_EQ(box(), "Set Active Object required");
+  EXPECT_EQ(call(L"Start"), "ui1 1");
+  DeleteFileW(V_BSTR(&target));
 }
 
 TEST_F(Office, TellsWhatIsNotInATable) {

@@ -6,9 +6,10 @@ import uno
 
 from failures import Failure, PEER_GONE, UnoException
 from handles import Single
-from word import binding, filters
+from word import binding, filters, templates
 from word.binding import (
     BAD_PATH,
+    COMMAND_FAILED,
     CORRUPT_FILE,
     Collection,
     FILE_NOT_FOUND,
@@ -156,13 +157,32 @@ class Documents(Collection):
             raise WordError(NO_MEMBER)
         return super().Item(binding.converted(Index, int))
 
-    def Open(self, FileName: str):
+    def Open(
+        self,
+        FileName: str,
+        ConfirmConversions: bool = False,
+        ReadOnly: bool = False,
+        AddToRecentFiles: bool = False,
+        PasswordDocument: str = "",
+        PasswordTemplate: str = "",
+        Revert: bool = False,
+        WritePasswordDocument: str = "",
+        WritePasswordTemplate: str = "",
+        Format: int = 0,
+        Encoding: int = 0,
+        Visible: bool = True,
+    ):
+        """Open a file, or activate its document if it is open. Nothing is asked, shown or remembered,
+        whatever is said of that."""
+        if PasswordDocument or PasswordTemplate or WritePasswordDocument or WritePasswordTemplate:
+            raise WordError(COMMAND_FAILED, "Files with passwords cannot be opened here.")
         file = self._session.existing_file(FileName)
         for document in self._session.documents:
             if document.file() == file:
                 document.Activate()
                 return document
-        return self._session.load(uno.systemPathToFileUrl(file), filters.for_loading(file, as_template=False))
+        arguments = filters.for_loading(file, as_template=False, read_only=ReadOnly)
+        return self._session.load(uno.systemPathToFileUrl(file), arguments)
 
     def Add(self, Template: str = ""):
         if not Template:
@@ -222,6 +242,10 @@ class Application(WordObject):
     @property
     def Selection(self):
         return self.ActiveDocument.selection()
+
+    @property
+    def NormalTemplate(self):
+        return templates.normal(self._session)
 
     @property
     def Options(self):

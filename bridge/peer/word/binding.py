@@ -82,8 +82,8 @@ class Collection(WordObject):
 
 
 def kept(kind, initial, allowed=None, longest=None):
-    """Return a property that is remembered in the object's _kept, and nothing else: a setting, or the state of
-    a window that is not there."""
+    """Return a property that is remembered in the object's _kept, and nothing else: a setting, or the state
+    of a window that is not there."""
     key = object()
 
     def read(self):

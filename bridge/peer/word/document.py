@@ -15,12 +15,16 @@ from word.binding import (
     VALUE_OUT_OF_RANGE,
     WordError,
     WordObject,
+    converted,
 )
 from word.flow import MainFlow
+from word.page_styles import PageStyle, SectionStyles
 from word.ranges import Range
 from word.sections import Sections
 from word.selection import Selection
+from word.styles import Styles
 from word.tables import Tables
+from word.templates import Template, normal
 
 DO_NOT_SAVE, SAVE = 0, -1  # WdSaveOptions of the object model; -2 would ask somebody.
 
@@ -65,6 +69,9 @@ class Document(WordObject):
         self._model = model
         self._name = name  # While the document has no file.
         self.main = MainFlow(self)
+        self._page_styles = {}
+        self._tables = None
+        self._section_styles = {}
         self._selection = None
         # Without a layout for every keystroke a text of any length is typed at once; what needs lines or
         # pages asks for them by laid_out().
@@ -90,8 +97,31 @@ class Document(WordObject):
         return self._selection
 
     def touch(self):
-        """Take note that the main text has changed."""
+        """Take note that any text may have changed."""
         self.main.touch()
+        for style in self._page_styles.values():
+            style.touch()
+
+    def count_of_tables(self):
+        """Return how many tables there are, in headers and in cells as well."""
+        if self._tables is None:
+            self._tables = self.model.getTextTables()
+        return self._tables.getCount()
+
+    def section_styles(self, name):
+        """Return the page styles of a section that begins with the one of that name."""
+        if name not in self._section_styles:
+            first = self._page_style(name)
+            rest = self._page_style(first.get("FollowStyle"))
+            # Left and right pages follow each other: with them the first page is like the others.
+            is_final = rest.get("FollowStyle") == rest.name
+            self._section_styles[name] = SectionStyles(first, rest if is_final else first)
+        return self._section_styles[name]
+
+    def _page_style(self, name):
+        if name not in self._page_styles:
+            self._page_styles[name] = PageStyle(self, name)
+        return self._page_styles[name]
 
     def laid_out(self):
         """Return a context in which LibreOffice keeps the document's layout up to date."""
@@ -140,6 +170,14 @@ class Document(WordObject):
         return Sections(self)
 
     @property
+    def Styles(self):
+        return Styles(self.model)
+
+    @property
+    def PageSetup(self):
+        return self.Sections.PageSetup
+
+    @property
     def Tables(self):
         return Tables(self.main)
 
@@ -169,10 +207,11 @@ class Document(WordObject):
     @property
     def AttachedTemplate(self):
         url = self.model.getDocumentProperties().TemplateURL
-        return self.session.paths.to_windows(uno.fileUrlToSystemPath(url)) if url else ""
+        return Template(self.session, uno.fileUrlToSystemPath(url)) if url else normal(self.session)
 
     @AttachedTemplate.setter
-    def AttachedTemplate(self, value: str):
+    def AttachedTemplate(self, value):
+        value = value.FullName if isinstance(value, Template) else converted(value, str)
         file = self.session.existing_file(value) if value else None
         properties = self.model.getDocumentProperties()
         properties.TemplateURL = uno.systemPathToFileUrl(file) if file else ""

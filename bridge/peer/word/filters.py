@@ -35,9 +35,10 @@ def property_value(name, value):
     return result
 
 
-def for_loading(file, as_template):
+def for_loading(file, as_template, read_only=False):
     """Return the arguments that load a file unseen and without its macros."""
     arguments = {"Hidden": True, "AsTemplate": as_template, "MacroExecutionMode": 0}
+    arguments |= {"ReadOnly": True} if read_only else {}
     if os.path.splitext(file)[1].lower() == ".txt":
         arguments |= {"FilterName": BY_EXTENSION[".txt"], "FilterOptions": TEXT_OPTIONS}
     return tuple(property_value(name, value) for name, value in arguments.items())

@@ -23,8 +23,7 @@ class Replacement(WordObject):
 
 
 class Find(WordObject):
-    """The search that belongs to a selection or a range, its target: something with a flow, a Start and an End,
-    and go_to(start, end)."""
+    """The search that belongs to a selection or a range, its target."""
 
     def __init__(self, target):
         self._target = target
@@ -72,8 +71,8 @@ class Find(WordObject):
         MatchAlefHamza: bool = None,
         MatchControl: bool = None,
     ):
-        """Find, and replace if asked to; the result tells whether there was an occurrence. What is given stays
-        set for the next time."""
+        """Find, and replace if asked to; the result tells whether there was an occurrence. What is given
+        stays set for the next time."""
         if Replace not in (NONE, ONE, ALL):
             raise WordError(BAD_PARAMETER)
         given = {
@@ -94,7 +93,7 @@ class Find(WordObject):
             self._replacement.Text = ReplaceWith
         self._found = False
         if self.MatchSoundsLike or self.MatchAllWordForms:
-            raise WordError(COMMAND_FAILED, "LibreOffice finds neither what sounds alike nor other word forms.")
+            raise WordError(COMMAND_FAILED, "LibreOffice finds neither similar sounds nor word forms.")
         self._target.flow.refresh()
         if self.Text:
             self._found = self._replace_all() if Replace == ALL else self._next(is_to_replace=Replace == ONE)
@@ -102,8 +101,10 @@ class Find(WordObject):
 
     def _next(self, is_to_replace):
         flow, occurrences, new_text = self._prepared()
+        target = self._target.Start, self._target.End
         with patterns.bounded():
-            found = (occurrences.nearest(*region, self.Forward) for region in self._regions(occurrences))
+            regions = self._regions(occurrences, *target)
+            found = (occurrences.nearest(*region, self.Forward) for region in regions)
             match = next((each for each in found if each), None)
         if match is None:
             return False
@@ -120,11 +121,11 @@ class Find(WordObject):
     def _replace_all(self):
         flow, occurrences, new_text = self._prepared()
         length, start, end = occurrences.length, self._target.Start, self._target.End
-        if self.Wrap == CONTINUE:
-            start, end = 0, length
-        elif self._is_left_behind(occurrences, start, end):
-            start, end = (start, length) if self.Forward else (0, end)
         with patterns.bounded():
+            if self.Wrap == CONTINUE:
+                start, end = 0, length
+            elif self._is_left_behind(occurrences, start, end):
+                start, end = (start, length) if self.Forward else (0, end)
             matches = list(occurrences.within(start, end))
         done = flow.replace_all([(*occurrences.span(match), new_text(match)) for match in matches])
         self._target.adapt(done)
@@ -140,9 +141,9 @@ class Find(WordObject):
         flow = self._target.flow
         return flow, Occurrences(flow.story(), expression), new_text
 
-    def _regions(self, occurrences):
+    def _regions(self, occurrences, start, end):
         """Return where to look, one after the other."""
-        length, start, end = occurrences.length, self._target.Start, self._target.End
+        length = occurrences.length
         onward = (end, length) if self.Forward else (0, start)
         is_inside = not self._is_left_behind(occurrences, start, end)
         result = [(start, end)] if is_inside else [onward]

@@ -38,6 +38,10 @@ class Flow:
     def prepare(self):
         """Make sure that there is a text that can be changed."""
 
+    def text_in(self, model):
+        """Return LibreOffice's text in the document, or in another made from its file."""
+        raise NotImplementedError
+
     def replace(self, start, end, text):
         """Put text between two positions and return the position of its end."""
         self.prepare()
@@ -73,8 +77,11 @@ class Flow:
 
 
 class MainFlow(Flow):
+    def text_in(self, model):
+        return model.getText()
+
     def _read(self):
-        return MainStory(self.document.model)
+        return MainStory(self.document.model, self.document.count_of_tables())
 
     def select(self, start, end):
         """Select the text between two positions."""

@@ -3,7 +3,7 @@
 import uno
 
 from failures import UnoException
-from word.places import UNIT, distance, text_cursor
+from word.places import UNIT, units
 from word.story import Story
 
 FIRST_PAGE_STYLE = "Standard"  # What a document begins with that names no other.
@@ -12,16 +12,10 @@ FIRST_PAGE_STYLE = "Standard"  # What a document begins with that names no other
 class MainStory(Story):
     """One reading of a document's main text; out of date after the next change."""
 
-    def __init__(self, model):
+    def __init__(self, model, count_of_tables):
         self._model = model
-        super().__init__(model.getText())
+        super().__init__(model.getText(), count_of_tables)
         self._starts_of_sections, self._page_styles = self._mark_sections()
-
-    def _read_all(self, text):
-        if self._model.getTextTables().getCount() > 0:
-            super()._read_all(text)
-        else:
-            self._add(text.getStart(), self._paragraphs_without_tables(text) + "\r", None)
 
     def count_of_sections(self):
         return len(self._page_styles)
@@ -34,18 +28,18 @@ class MainStory(Story):
     def section_starts(self):
         return self._starts_of_sections
 
-    def _paragraphs_without_tables(self, body):
+    def _read_paragraphs(self, text):
         if self._find(r"\n").getCount() == 0:
-            return self._as_read.replace("\n", "\r")
+            self._add(text, None, self._as_read.replace("\n", "\r") + "\r", None)
+            return
         # The text alone does not tell line breaks from paragraphs.
-        cursor = body.createTextCursor()
+        cursor = text.createTextCursor()
         cursor.gotoStart(False)
         paragraphs = []
-        while True:
+        while not paragraphs or cursor.gotoNextParagraph(False):
             cursor.gotoEndOfParagraph(True)
             paragraphs.append(cursor.getString().replace("\n", "\v"))
-            if not cursor.gotoNextParagraph(False):
-                return "\r".join(paragraphs)
+        self._add(text, None, "\r".join(paragraphs) + "\r", None)
 
     def _find(self, expression, attributes=()):
         descriptor = self._model.createSearchDescriptor()
@@ -57,8 +51,8 @@ class MainStory(Story):
         return self._model.findAll(descriptor)
 
     def _mark_sections(self):
-        """Return where sections begin, and their page styles: a paragraph or a table that sets a page style of
-        its own begins one."""
+        """Return where sections begin, and their page styles: a paragraph or a table that sets a page style
+        begins one."""
         names = {0: FIRST_PAGE_STYLE}
         names |= {start: name for start, name in self._page_styles_of_paragraphs() if name}
         for table in self.tables.values():
@@ -74,20 +68,25 @@ class MainStory(Story):
         attribute = uno.createUnoStruct("com.sun.star.beans.PropertyValue")
         attribute.Name, attribute.Value = "PageDescName", ""
         found = self._find("", (attribute,))
-        near = None  # The place found last and its position: counting from there is shorter.
+        place, before = self._source.createTextCursor(), self._source.createTextCursor()
+        position = None
         for index in range(found.getCount()):
             try:
-                place = text_cursor(found.getByIndex(index)).getStart()
+                place.gotoRange(found.getByIndex(index), False)
+                place.collapseToStart()
                 # The search also finds the attribute without a value.
-                if name := text_cursor(place).PageDescName:
-                    near = (place, self._position_after(place, near))
-                    yield near[1], name
+                if name := place.PageDescName:
+                    position = self._position_after(before, position, place)
+                    before.gotoRange(place, False)
+                    yield position, name
             except (UnoException, IndexError):
                 pass  # In a header, a footer or a frame.
 
-    def _position_after(self, place, near):
-        if near and place.getText().compareRegionStarts(near[0], place) >= 0:
-            position = near[1] + distance(near[0], place)
-            if position <= self.block(near[1]).end:
-                return position
+    def _position_after(self, before, position, place):
+        """Return a place's position, counted from the one found before it if both lie in one block."""
+        if position is not None and self._source.compareRegionStarts(before, place) >= 0:
+            before.gotoRange(place, True)
+            there = position + units(before.getString())
+            if there <= self.block(position).end:
+                return there
         return self.position(place)

@@ -40,7 +40,8 @@ def expression(text, match_case, whole_word):
         end = code.end()
     result += _literal(text[end:])
     if whole_word:
-        result = (r"(?<!\w)" if _is_word(text[:1]) else "") + result + (r"(?!\w)" if _is_word(text[-1:]) else "")
+        result = (r"(?<!\w)" if _is_word(text[:1]) else "") + result
+        result += r"(?!\w)" if _is_word(text[-1:]) else ""
     return re.compile(result, 0 if match_case else re.IGNORECASE)
 
 
@@ -106,10 +107,13 @@ class Wildcards:
     @staticmethod
     def _set(value):
         is_negated = value[0] == "!"
-        members = re.compile(CARET.pattern + r"|\\?(.)", CARET.flags).sub(
-            lambda each: each[0] if each[0] == "-" else re.escape(each[2] or _character(each[1], "Find What", "p")),
-            value[is_negated:],
-        )
+
+        def member(found):
+            if found[0] == "-":
+                return "-"
+            return re.escape(found[2] or _character(found[1], "Find What", "p"))
+
+        members = re.sub(CARET.pattern + r"|\\?(.)", member, value[is_negated:], flags=CARET.flags)
         if not members:
             raise WordError(BAD_PATTERN)
         return f"[^\\a{members}]" if is_negated else f"[{members}]"

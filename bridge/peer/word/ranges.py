@@ -1,5 +1,7 @@
 """Ranges of a text, and the paragraphs that lead to them."""
 
+from failures import Failure, TYPE_MISMATCH
+from word import formatted
 from word.binding import Collection, VALUE_OUT_OF_RANGE, WordError, WordObject
 from word.find import Find
 from word.flow import accepted
@@ -57,6 +59,19 @@ class Range(WordObject):
     @Text.setter
     def Text(self, value: str):
         self._end = self.flow.replace(self._start, self._end, value)
+
+    @property
+    def FormattedText(self):
+        """The text with all that is in it, for another range to take over."""
+        return Range(self.flow, self._start, self._end)
+
+    @FormattedText.setter
+    def FormattedText(self, value):
+        if not isinstance(value, Range):
+            raise Failure(TYPE_MISMATCH)
+        before = len(self.flow.story())
+        formatted.copy(value.flow, (value._start, value._end), self.flow, (self._start, self._end))
+        self._end += len(self.flow.story()) - before
 
     @property
     def Paragraphs(self):

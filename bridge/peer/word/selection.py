@@ -193,12 +193,13 @@ class Selection(WordObject):
     # Helpers
 
     def _go_to_edge(self, unit, extend, at_end):
-        """Go to the beginning or the end of the line or of the text; the result is the number of positions."""
+        """Go to the beginning or the end of the line or the text; the result is the number of positions."""
         if unit not in (LINE, STORY):
             raise WordError(BAD_PARAMETER)
         start, end = self.Start, self.End
         self.forget()
-        target = self._movement.edge(unit, self._cursor.getEnd() if at_end else self._cursor.getStart(), at_end)
+        place = self._cursor.getEnd() if at_end else self._cursor.getStart()
+        target = self._movement.edge(unit, place, at_end)
         to = self._document.story().position(target)
         if extend:
             self.go_to(start if at_end else to, to if at_end else end)

@@ -9,19 +9,31 @@ import collections
 import itertools
 import re
 
-from word.places import UNIT, cell_of, cross, distance, text_cursor, units
+from word.places import UNIT, cell_at, cross, units
 
 
 class Block:
-    def __init__(self, start, length, anchor, cell):
+    def __init__(self, start, length, text, anchor, cell):
         self.start = start  # The position of its first character.
         self.length = length  # Without the mark at the end, which no cursor can go behind.
-        self.anchor = anchor  # Where LibreOffice has that first character.
         self.cell = cell  # The names of table and cell, or None.
+        self._text = text
+        self._anchor = anchor  # None for the beginning of the text.
 
     @property
     def end(self):
         return self.start + self.length
+
+    @property
+    def anchor(self):
+        """Where LibreOffice has its first character."""
+        if self._anchor is None:
+            self._anchor = self._text.getStart()
+        return self._anchor
+
+    def cursor(self):
+        """Return a text cursor at its first character."""
+        return self._text.createTextCursorByRange(self.anchor)
 
 
 class TableSpan:
@@ -36,10 +48,10 @@ class TableSpan:
 
 
 class Story:
-    """One reading of a text; out of date after the next change. Without a text it is the one paragraph mark of
-    a header that LibreOffice has not switched on."""
+    """One reading of a text; out of date after the next change. Without a text it is the one paragraph mark
+    of a header that LibreOffice has not switched on."""
 
-    def __init__(self, text=None):
+    def __init__(self, text=None, count_of_tables=0):
         self._blocks = []
         self._blocks_of_cell = collections.defaultdict(list)
         self._pieces = []
@@ -47,15 +59,16 @@ class Story:
         self.tables = {}  # By LibreOffice's name, in the order of the text.
         self._source = text
         self._as_read = text.getString() if text else ""
+        self._count_of_tables = count_of_tables  # In the whole document, cells included.
+        self._cells_are_plain = False
         if text is None:
             self._put("\r")
+        elif count_of_tables:
+            self._read(text, None)
         else:
-            self._read_all(text)
+            self._read_paragraphs(text)
         self._units = bytearray("".join(self._pieces).encode(UNIT, "surrogatepass"))
         self._starts = [block.start for block in self._blocks]
-
-    def _read_all(self, text):
-        self._read(text, None)
 
     def is_current(self):
         """Tell whether the fields in the text still read as they did: a layout changes page numbers."""
@@ -84,14 +97,17 @@ class Story:
 
     def position(self, place):
         """Return the position at which a place of this text or of its tables begins."""
-        place = place.getStart()
-        cell = cell_of(place)
+        text = place.getText()
+        cursor = text.createTextCursorByRange(place)
+        cursor.collapseToStart()
+        cell = cell_at(cursor)
         blocks = self._blocks_of_cell.get(cell and (cell[0].getName(), cell[1]), ())
-        compare = place.getText().compareRegionStarts
         # The last block that does not begin behind the place; the office says 1 for what begins before.
-        index = bisect.bisect(blocks, 0, lo=1, key=lambda block: -compare(block.anchor, place))
+        compare = text.compareRegionStarts
+        index = bisect.bisect(blocks, 0, lo=1, key=lambda block: -compare(block.anchor, cursor))
         block = blocks[index - 1]
-        return block.start + min(distance(block.anchor, place), block.length)
+        cursor.gotoRange(block.anchor, True)
+        return block.start + min(units(cursor.getString()), block.length)
 
     def block(self, position):
         """Return the block that holds a position."""
@@ -101,7 +117,7 @@ class Story:
         """Return a text cursor at a position; a position behind a mark that LibreOffice cannot go behind is
         taken as the one before the mark."""
         block = self.block(position)
-        cursor = text_cursor(block.anchor)
+        cursor = block.cursor()
         cross(cursor, self.characters(block.start, min(position, block.end)))
         cursor.collapseToEnd()
         return cursor
@@ -127,27 +143,36 @@ class Story:
         self._pieces.append(text)
         self._length += units(text)
 
-    def _add(self, anchor, text, cell):
-        block = Block(self._length, units(text) - 1, anchor, cell)
+    def _add(self, text, anchor, characters, cell):
+        block = Block(self._length, units(characters) - 1, text, anchor, cell)
         self._blocks.append(block)
         self._blocks_of_cell[cell].append(block)
-        self._put(text)
+        self._put(characters)
+
+    def _read_paragraphs(self, text):
+        """Add a text that holds no table."""
+        if "\n" in self._as_read:
+            self._read(text, None)
+        else:
+            self._add(text, None, self._as_read + "\r", None)
 
     def _read(self, text, cell):
         """Add a text with its tables; cell is the names of the table and the cell that hold it."""
+        items = list(enumerated(text))
+        if cell is None:
+            count = sum(hasattr(item, "getCellNames") for item in items)
+            self._cells_are_plain = count == self._count_of_tables
         paragraphs, anchor = [], None
-        enumeration = text.createEnumeration()
-        while enumeration.hasMoreElements():
-            item = enumeration.nextElement()
+        for item in items:
             if hasattr(item, "getCellNames"):
                 if paragraphs:
-                    self._add(anchor, "\r".join(paragraphs) + "\r", cell)
+                    self._add(text, anchor, "\r".join(paragraphs) + "\r", cell)
                     paragraphs = []
                 self._read_table(item, is_nested=cell is not None)
             else:
                 anchor = anchor if paragraphs else item.getStart()
                 paragraphs.append(item.getString().replace("\n", "\v"))
-        self._add(anchor, "\r".join(paragraphs) + ("\a" if cell else "\r"), cell)
+        self._add(text, anchor, "\r".join(paragraphs) + ("\a" if cell else "\r"), cell)
 
     def _read_table(self, item, is_nested):
         table = self.tables[item.getName()] = TableSpan(item, self._length, is_nested)
@@ -162,8 +187,14 @@ class Story:
         table.end = self._length
 
     def _read_cell(self, cell, names):
-        text = cell.getString()
-        if "\n" in text:  # Several paragraphs, a line break or a table.
+        text = cell.getString() if self._cells_are_plain else None
+        if text is None or "\n" in text:  # A table inside, several paragraphs, or a line break.
             self._read(cell, names)
         else:
-            self._add(cell.getStart(), text + "\a", names)
+            self._add(cell, None, text + "\a", names)
+
+
+def enumerated(container):
+    enumeration = container.createEnumeration()
+    while enumeration.hasMoreElements():
+        yield enumeration.nextElement()
