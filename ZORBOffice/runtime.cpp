@@ -6,7 +6,7 @@
 #include <new>
 
 // The names are the compiler's.
-// NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp,cert-dcl58-cpp)
+// NOLINTBEGIN(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl50-cpp,cert-dcl51-cpp,cert-dcl58-cpp)
 namespace __gnu_cxx {
 
 void __verbose_terminate_handler() { std::abort(); }
@@ -22,4 +22,4 @@ void __throw_logic_error(const char*) { throw bad_alloc(); }
 void __throw_out_of_range_fmt(const char*, ...) { throw bad_alloc(); }
 
 }  // namespace std
-// NOLINTEND(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl51-cpp,cert-dcl58-cpp)
+// NOLINTEND(bugprone-reserved-identifier,cert-dcl37-c,cert-dcl50-cpp,cert-dcl51-cpp,cert-dcl58-cpp)

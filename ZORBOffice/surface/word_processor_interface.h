@@ -92,8 +92,8 @@ struct WordProcessorInterface : IDispatch {
 
   // Copies headers, footers and the normal style's font, each if chosen, from SourceTemplate to DestTemplate
   // (paths; empty: the "Normal" template), and saves the latter. Neither may be open already. With no choice
-  // a message says so, and the answer is 0. On failure DestTemplate is unchanged, unless its closing failed. Trap: message "Set
-  // Header/Footer ". docs/headers-and-footers.md has it step by step.
+  // a message says so, and the answer is 0. On failure DestTemplate is unchanged, unless its closing failed.
+  // Trap: message "Set Header/Footer ". docs/headers-and-footers.md has it step by step.
   virtual HRESULT STDMETHODCALLTYPE get_SetHeaderFooter(BSTR* SourceTemplate, BSTR* DestTemplate,
                                                         Choice* ApplyHeader, Choice* ApplyFooter,
                                                         Choice* ApplyFont, BYTE* result) noexcept = 0;

@@ -4,7 +4,7 @@ import os
 
 import uno
 
-from word import filters
+from word import filters, first_pages
 from word.binding import (
     BAD_PATH,
     COMMAND_FAILED,
@@ -220,6 +220,7 @@ class Document(WordObject):
     def Save(self):
         if not self.file():
             raise WordError(COMMAND_FAILED, "The document has no name, and nobody can be asked for one.")
+        self._prepare(os.path.splitext(self.file())[1])
         self.model.store()
 
     def SaveAs(self, FileName: str = "", FileFormat: int = None):
@@ -234,6 +235,7 @@ class Document(WordObject):
             raise WordError(NOT_A_FILE_NAME)
         if any(other is not self and other.file() == file for other in self.session.documents):
             raise WordError(NAME_IN_USE)
+        self._prepare(filters.extension_for(file, FileFormat))
         self.model.storeAsURL(uno.systemPathToFileUrl(file), filters.for_saving(file, FileFormat))
 
     def PrintOut(
@@ -269,6 +271,11 @@ class Document(WordObject):
         self.model  # A closed document has no second end.
         self.session.documents.remove(self)
         self.discard()
+
+    def _prepare(self, extension):
+        """Change what LibreOffice would not write as it is."""
+        if not extension.lower().startswith(".o"):
+            first_pages.unite(self)
 
     def _settings(self):
         return self.model.createInstance("com.sun.star.document.Settings")

@@ -44,10 +44,15 @@ def for_loading(file, as_template, read_only=False):
     return tuple(property_value(name, value) for name, value in arguments.items())
 
 
+def extension_for(file, file_format=None):
+    """Return the extension that stands for the format in which a file is saved."""
+    return BY_FORMAT.get(file_format, os.path.splitext(file)[1].lower())
+
+
 def for_saving(file, file_format=None):
     """Return the arguments that save a file in a format or, without one, as its extension says. An extension
     that means nothing here does as under the word processor: the format is its own."""
-    extension = BY_FORMAT.get(file_format, os.path.splitext(file)[1].lower())
+    extension = extension_for(file, file_format)
     arguments = {"FilterName": BY_EXTENSION.get(extension, BY_EXTENSION[".docx"]), "Overwrite": True}
     if extension == ".txt":
         arguments["FilterOptions"] = TEXT_OPTIONS

@@ -11,6 +11,7 @@ import uno
 
 from word import filters
 from word.binding import COMMAND_FAILED, WordError
+from word.places import copy_text
 from word.story import Story, enumerated
 
 
@@ -39,7 +40,7 @@ def _reduce(scratch, source, span):
     if source is not source.document.main:
         _clear(body)
         if text is not None:
-            _copy_text(text, body)
+            copy_text(text, body)
     start, end = span
     length = len(source.story())
     if (start, end) != (0, length):
@@ -55,13 +56,6 @@ def _reduce(scratch, source, span):
     first.gotoStart(False)
     first.setPropertyToDefault("PageDescName")
     first.setPropertyToDefault("BreakType")
-
-
-def _copy_text(source, target):
-    """Call a method of texts that they do not tell of when asked for their members."""
-    local = uno.getComponentContext()
-    reflection = local.ServiceManager.createInstance("com.sun.star.reflection.CoreReflection")
-    reflection.forName("com.sun.star.text.XTextCopy").getMethod("copyText").invoke(target, (source,))
 
 
 def _emptied(flow, span):

@@ -3,6 +3,7 @@ setup that tells which of them exist."""
 
 from word.binding import NO_MEMBER, NOT_AVAILABLE, WordError
 from word.flow import Flow
+from word.places import copy_text
 from word.story import Story
 
 HEADER, FOOTER = "Header", "Footer"
@@ -88,6 +89,17 @@ class PageStyle:
             self._style.setPropertyValue(name, not value)
         if value:
             self._empty(kinds, index)
+        self.touch()
+
+    def take_first_page(self, other):
+        """Take over the headers and footers of another style as those of the first page."""
+        for kind in (HEADER, FOOTER):
+            if other.get(f"{kind}IsOn") and not self.get(f"{kind}IsOn"):
+                self.switch_on(kind)
+        self.set_exists(FIRST, True)
+        for kind in self._kinds_on():
+            if (text := other.get(kind + TEXTS[PRIMARY])) is not None:
+                copy_text(text, self.get(kind + TEXTS[FIRST]))
         self.touch()
 
     def switch_on(self, kind):

@@ -1,5 +1,7 @@
 """Places in LibreOffice's texts, and how many of the word processor's positions lie between them."""
 
+import uno
+
 UNIT = "utf-16-le"
 LONGEST_STEP = 32767  # Cursors take their distance as a 16-bit number.
 
@@ -32,6 +34,14 @@ def cell_at(cursor):
     """Return what cell_of does, for the place of a text cursor."""
     cell = cursor.getPropertyValue("Cell")
     return (cursor.getPropertyValue("TextTable"), cell.CellName) if cell else None
+
+
+def copy_text(source, target):
+    """Copy all of a text to the beginning of another one of the same document. Texts have the method, but do
+    not tell of it when asked for their members."""
+    local = uno.getComponentContext()
+    reflection = local.ServiceManager.createInstance("com.sun.star.reflection.CoreReflection")
+    reflection.forName("com.sun.star.text.XTextCopy").getMethod("copyText").invoke(target, (source,))
 
 
 def cross(cursor, text, backward=False):

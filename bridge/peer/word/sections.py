@@ -99,11 +99,15 @@ class Section(WordObject):
         """Give the first page, or even pages, a header and a footer of their own, or no longer."""
         styles = self.styles()
         if index == FIRST and styles.are_two and not value:
-            place = self._document.story().place(self._span_and_style(self._index)[0])
-            (cell_of(place) or (text_cursor(place),))[0].PageDescName = styles.rest.name
-            self._document.touch()
+            self.begin_with(styles.rest)
         else:
             styles.set_exists(index, value)
+
+    def begin_with(self, style):
+        """Set the page style that the section begins with."""
+        place = self._document.story().place(self._span_and_style(self._index)[0])
+        (cell_of(place) or (text_cursor(place),))[0].PageDescName = style.name
+        self._document.touch()
 
     def shares_with_previous(self):
         """Tell whether headers and footers are those of the section before."""

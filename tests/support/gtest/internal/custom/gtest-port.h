@@ -1,5 +1,5 @@
-// GoogleTest's own place for what a platform lacks: MinGW's Win32 thread model has no std::mutex, which GoogleTest's
-// Notification is made of.
+// GoogleTest's own place for what a platform lacks: MinGW's Win32 thread model has no std::mutex, which
+// GoogleTest's Notification is made of.
 #ifndef ZORBOFFICE_TESTS_GTEST_PORT_H_
 #define ZORBOFFICE_TESTS_GTEST_PORT_H_
 
