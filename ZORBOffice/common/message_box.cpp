@@ -16,8 +16,8 @@ bool somebody_can_press_ok() {
 
 }  // namespace
 
-void show_message(const std::wstring& text) {
-  if (somebody_can_press_ok()) MessageBoxW(GetActiveWindow(), text.c_str(), L"ZORBOffice", MB_OK);
+void show_message(const std::wstring& text, const std::wstring& title) {
+  if (somebody_can_press_ok()) MessageBoxW(GetActiveWindow(), text.c_str(), title.c_str(), MB_OK);
 }
 
 }  // namespace zorboffice
