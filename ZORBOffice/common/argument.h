@@ -37,6 +37,13 @@ class Argument {
     return argument;
   }
 
+  // A date by value: days since 30 December 1899.
+  static Argument date(DATE value) {
+    Argument argument(VT_DATE);
+    V_DATE(&argument.value_) = value;
+    return argument;
+  }
+
   // A host's variant, unchanged.
   static Argument variant(const VARIANT& value) {
     Argument argument(VT_EMPTY);

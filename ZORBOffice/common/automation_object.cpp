@@ -145,8 +145,14 @@ Bstr Result::text() const {
 LONG Result::int32() const { return V_I4(&converted_to(VT_I4).get()); }
 SHORT Result::int16() const { return V_I2(&converted_to(VT_I2).get()); }
 float Result::single() const { return V_R4(&converted_to(VT_R4).get()); }
+DATE Result::date() const { return V_DATE(&converted_to(VT_DATE).get()); }
 bool Result::flag() const {
   return value_.type() != VT_NULL && V_BOOL(&converted_to(VT_BOOL).get()) != VARIANT_FALSE;
+}
+
+bool Result::is_nothing() const {
+  const VARIANT& value = value_.get();
+  return (V_VT(&value) == VT_DISPATCH || V_VT(&value) == VT_UNKNOWN) && !V_UNKNOWN(&value);
 }
 
 Enumerator::Enumerator(const AutomationObject& collection) {

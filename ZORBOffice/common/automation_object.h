@@ -72,7 +72,11 @@ class Result {
   LONG int32() const;
   SHORT int16() const;
   float single() const;
+  DATE date() const;
   bool flag() const;  // null counts as false
+
+  // Whether it is the object Nothing.
+  bool is_nothing() const;
 
   // Chains go on without a step between.
   template <class... Arguments>

@@ -16,4 +16,10 @@ Bstr decimal(LONG number) {
   return digits;
 }
 
+std::wstring concatenated(std::initializer_list<std::wstring_view> parts) {
+  std::wstring text;
+  for (const std::wstring_view part : parts) text += part;
+  return text;
+}
+
 }  // namespace zorboffice

@@ -4,6 +4,8 @@
 #include <windows.h>
 #include <oleauto.h>
 
+#include <initializer_list>
+#include <string>
 #include <string_view>
 #include <utility>
 
@@ -46,6 +48,9 @@ class Bstr {
 
 // A number in decimal digits; throws std::bad_alloc.
 Bstr decimal(LONG number);
+
+// The parts, one immediately after the other; throws std::bad_alloc.
+std::wstring concatenated(std::initializer_list<std::wstring_view> parts);
 
 // A string that somebody else owns; null is empty.
 inline std::wstring_view view(BSTR text) { return {text ? text : L"", SysStringLen(text)}; }

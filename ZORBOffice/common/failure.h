@@ -12,6 +12,7 @@ namespace zorboffice {
 namespace runtime_error {
 inline constexpr LONG overflow = 6;
 inline constexpr LONG out_of_memory = 7;
+inline constexpr LONG type_mismatch = 13;
 inline constexpr LONG object_variable_not_set = 91;
 inline constexpr LONG object_required = 424;
 inline constexpr LONG automation_error = 440;

@@ -2,15 +2,19 @@
 
 namespace zorboffice::detail {
 
+void run_step(CallableRef step, TrapRef trap) {
+  try {
+    step();
+  } catch (...) {
+    trap(current_failure());
+  }
+}
+
 HRESULT run_in_frame(CallableRef body, TrapRef trap) noexcept {
   // What an earlier call left in the thread's error information must not describe this one's failure.
   SetErrorInfo(0, nullptr);
   try {
-    try {
-      body();
-    } catch (...) {
-      trap(current_failure());
-    }
+    run_step(body, trap);
     return S_OK;
   } catch (...) {
     return raise_to_host(current_failure());

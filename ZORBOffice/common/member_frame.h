@@ -47,8 +47,8 @@ inline constexpr auto none = [](const Failure& failure) { throw failure; };
 
 // An instance's last error: never cleared, overwritten by the next recorded failure.
 struct LastError {
-  LONG number = 0;
-  Bstr description;
+  LONG LastErrorNumber = 0;
+  Bstr LastErrorDescription;
 };
 
 // Trap: the failure is kept as the last error.
@@ -137,6 +137,8 @@ class TrapRef {
 // S_OK unless the trap itself threw.
 HRESULT run_in_frame(CallableRef body, TrapRef trap) noexcept;
 
+void run_step(CallableRef step, TrapRef trap);
+
 }  // namespace detail
 
 // Runs a member's body. A body that returns nothing leaves the result as its failure value, which for a
@@ -156,6 +158,13 @@ HRESULT trapped(ResultType* result, const Trap& trap, const Body& body) noexcept
   const HRESULT status = detail::run_in_frame(detail::CallableRef(run), detail::TrapRef(trap));
   if (FAILED(status)) detail::discard(result);
   return status;
+}
+
+// Runs one step of a member whose trap resumes: after a failure and its trap the member goes on with the next
+// step. What the trap throws ends the member.
+template <class Trap, class Body>
+void resuming(const Trap& trap, const Body& step) {
+  detail::run_step(detail::CallableRef(step), detail::TrapRef(trap));
 }
 
 // The answer of a member that is not built yet.

@@ -117,21 +117,21 @@ TEST(Frame, TrapsRecordAndShowInTheirOrder) {
   LONG recorded_when_shown = 0;
   const auto fails = [] { zorboffice::throw_runtime_error(13); };
   const auto shows = [&](const zorboffice::Failure& failure) {
-    recorded_when_shown = last_error.number;
+    recorded_when_shown = last_error.LastErrorNumber;
     zorboffice::message(L"prefix ")(failure);
   };
   VARIANT_BOOL result = 7;
 
   EXPECT_EQ(zorboffice::trapped(&result, zorboffice::record(last_error), fails), S_OK);
   EXPECT_EQ(result, VARIANT_FALSE);
-  EXPECT_EQ(last_error.number, 13);
-  EXPECT_EQ(utf8(last_error.description.view()), "Type mismatch");
+  EXPECT_EQ(last_error.LastErrorNumber, 13);
+  EXPECT_EQ(utf8(last_error.LastErrorDescription.view()), "Type mismatch");
   EXPECT_TRUE(boxes.take().empty());
 
   last_error = {};
   zorboffice::trapped(&result, zorboffice::both(shows, zorboffice::record(last_error)), fails);
   EXPECT_EQ(recorded_when_shown, 0);
-  EXPECT_EQ(last_error.number, 13);
+  EXPECT_EQ(last_error.LastErrorNumber, 13);
   zorboffice::trapped(&result, zorboffice::both(zorboffice::record(last_error), shows), fails);
   EXPECT_EQ(recorded_when_shown, 13);
   EXPECT_EQ(boxes.take().size(), 2U);
@@ -142,7 +142,7 @@ TEST(Frame, TrapsRecordAndShowInTheirOrder) {
   EXPECT_EQ(
       zorboffice::trapped(&result, zorboffice::both(fails_again, zorboffice::record(last_error)), fails),
       static_cast<HRESULT>(0x800A005B));
-  EXPECT_EQ(last_error.number, 0);
+  EXPECT_EQ(last_error.LastErrorNumber, 0);
 }
 
 TEST(Frame, AFailedCallLeavesNoStringToFree) {

@@ -5,6 +5,7 @@
 
 #include "members.h"
 #include "support/message_boxes.h"
+#include "support/text.h"
 
 namespace outside {
 namespace {
@@ -127,12 +128,13 @@ TEST(Slots, answer_a_host_that_started_nothing) {
     const auto members = members_of(ids);
     ComPtr<IDispatch> instance;
     ASSERT_EQ(create(ids)->QueryInterface(guid(ids.interface_id), &instance), S_OK);
-    // From the last slot to the first: the last error is read on a fresh instance, then again after failures.
+    // From the last slot to the first: the last error is read on a fresh instance.
     for (size_t i = members.size() * 2; i-- > 0;) {
       const bool references = i >= members.size();
       const size_t slot = i % members.size();
+      if (!references && std::wstring(members[slot].signature).find(L'&') == std::wstring::npos) continue;
       const std::string fresh = members[slot].fresh;
-      const bool unbuilt = fresh == Member::not_built, raises = fresh == Member::raised;
+      const bool raises = fresh.starts_with("raised: ");
       const auto types = types_of(members[slot].signature);
       SCOPED_TRACE(std::wstring(ids.name) + L" " + members[slot].signature +
                    (references ? L"" : L" by null"));
@@ -145,13 +147,13 @@ TEST(Slots, answer_a_host_that_started_nothing) {
       const HRESULT code = call_slot(instance.Get(), slot, types, references, result);
       if (GetErrorInfo(0, &error) == S_OK) error->GetDescription(&described);
       for (const SeenBox& box : boxes.take()) shown += box.text;
-      EXPECT_TRUE(is_failure_value(types.back(), result));
+      EXPECT_TRUE(members[slot].succeeds || is_failure_value(types.back(), result));
       // A null reference is a failure like any other, or refused at once.
       if (references || code != E_POINTER) {
-        EXPECT_EQ(code, static_cast<HRESULT>(unbuilt ? 0x800A01BD : raises ? 0x800A01A8 : 0));
-        const auto raised = unbuilt ? L"Object doesn't support this action" : L"Object required";
-        EXPECT_EQ(take(described), unbuilt || raises ? raised : L"");
-        EXPECT_EQ(references ? shown : shown.empty() ? "" : fresh, unbuilt || raises ? "" : fresh);
+        const std::string text = "raised: " + utf8(take(described));
+        EXPECT_EQ(FAILED(code), raises);
+        EXPECT_EQ(text, raises ? fresh : "raised: ");
+        EXPECT_EQ(references ? shown : shown.empty() ? "" : fresh, raises ? "" : fresh);
       }
       EXPECT_EQ(call_slot(instance.Get(), slot, types, references, nullptr), E_POINTER);
       EXPECT_TRUE(boxes.take().empty());

@@ -13,8 +13,12 @@ namespace outside {
 struct Member {
   DISPID id;
   const wchar_t* signature;
-  const char* fresh = not_built;  // the message box's text; "" for a quiet failure; "raised" or `not_built`
-  static constexpr const char *not_built = "not built", *raised = "raised";
+  // The message boxes' texts; "" for none; or what reaches the host instead.
+  const char* fresh = not_built;
+  bool succeeds = false;
+  static constexpr const char *not_built = "raised: Object doesn't support this action",
+                              *raised = "raised: Object required",
+                              *not_set = "raised: Object variable or With block variable not set";
 };
 
 inline constexpr std::pair<VARTYPE, const wchar_t*> type_names[] = {
@@ -87,39 +91,53 @@ inline constexpr Member word_members[] = {
     {0x68030000, L"get GetLastErrorDescription() string", ""}};
 
 inline constexpr Member outlook_members[] = {
-    {0x60030001, L"call StartOutlook() flag"},
-    {0x60030002, L"call StopOutlook(Force flag=0) flag"},
+    {0x60030001, L"call StartOutlook() flag", ""},
+    {0x60030002, L"call StopOutlook(Force flag=0) flag", "", true},
     {0x60030003,
      L"call NewEmail(Template &string, ToAddress &string, CCAddress &string, BCCAddress &string, "
-     L"Subject &string, Content &string, UseHTML &flag, AutoSend &flag, Attachment &string) flag"},
-    {0x60030004, L"call OpenItem(EntryType string) flag"},
-    {0x60030005, L"call InitItems(EntryType string, Condition string) flag"},
-    {0x60030006, L"call CreateItem(EntryType string) flag"},
-    {0x60030007, L"call DeleteItem(EntryType string) flag"},
-    {0x60030008, L"call GetItem(EntryType string, EntryId string) flag"},
-    {0x60030009, L"call GetAppointmentInstance(EntryDate string) flag"},
-    {0x6003000A, L"call SaveItem(EntryType string) flag"},
-    {0x6003000B, L"call SaveItemToFile(EntryType string, FileName string) flag"},
-    {0x6003000C, L"call SaveEmailAttachment(AttachmentNo short, FileName string) flag"},
-    {0x6003000D, L"call GetItemCount(EntryType string) short"},
-    {0x6003000E, L"call GetFirstItem(EntryType string) flag"},
-    {0x6003000F, L"call GetNextItem(EntryType string) flag"},
-    {0x60030010, L"call GetAppointmentProperty(AppProp string) string"},
-    {0x60030011, L"call SetAppointmentProperty(AppProp string, PropertyValue string) flag"},
-    {0x60030012, L"call GetRecurrencePattern() flag"},
-    {0x60030013, L"call ClearRecurrencePattern() flag"},
-    {0x60030014, L"call GetRecurrenceProperty(RecurProp string) string"},
-    {0x60030015, L"call SetRecurrenceProperty(RecurProp string, PropertyValue string) string"},
-    {0x60030016, L"call GetExceptionProperty(Instance short, ExceptProp string) string"},
-    {0x60030017, L"call GetContactProperty(ContactProp string) string"},
-    {0x60030018, L"call SetContactProperty(ContactProp string, PropertyValue string) flag"},
-    {0x60030019, L"call GetTaskProperty(TaskProp string) string"},
-    {0x6003001A, L"call SetTaskProperty(TaskProperty string, PropertyValue string) flag"},
-    {0x6003001B, L"call GetEmailProperty(EmailProp string) string"},
-    {0x6003001C, L"call GetNoteProperty(NoteProperty string) string"},
-    {0x6003001D, L"call SetNoteProperty(NoteProperty string, PropertyValue string) flag"},
-    {0x6003001E, L"call GetLastErrorNumber() short"},
-    {0x6003001F, L"call GetLastErrorDescription() string"}};
+     L"Subject &string, Content &string, UseHTML &flag, AutoSend &flag, Attachment &string) flag",
+     "New Email ActiveX component can't create object"
+     "New Email Object required"
+     "New Email Object required"
+     "New Email Object variable or With block variable not set"
+     "New Email Object variable or With block variable not set"
+     "New Email Object variable or With block variable not set"
+     "New Email Object variable or With block variable not set"
+     "New Email Object variable or With block variable not set"
+     "New Email Object variable or With block variable not set"},
+    {0x60030004, L"call OpenItem(EntryType string) flag", "Unknown Entry Type "},
+    {0x60030005, L"call InitItems(EntryType string, Condition string) flag", "Unknown Entry Type "},
+    {0x60030006, L"call CreateItem(EntryType string) flag", "Unknown Entry Type "},
+    {0x60030007, L"call DeleteItem(EntryType string) flag", "Unknown Entry Type "},
+    {0x60030008, L"call GetItem(EntryType string, EntryId string) flag", "Unknown Entry Type "},
+    {0x60030009, L"call GetAppointmentInstance(EntryDate string) flag", ""},
+    {0x6003000A, L"call SaveItem(EntryType string) flag", "Unknown Entry Type "},
+    {0x6003000B, L"call SaveItemToFile(EntryType string, FileName string) flag", "Unknown Entry Type "},
+    {0x6003000C, L"call SaveEmailAttachment(AttachmentNo short, FileName string) flag", Member::not_set},
+    {0x6003000D, L"call GetItemCount(EntryType string) short", "Unknown Entry Type "},
+    {0x6003000E, L"call GetFirstItem(EntryType string) flag", "Unknown Entry Type "},
+    {0x6003000F, L"call GetNextItem(EntryType string) flag", "Unknown Entry Type "},
+    {0x60030010, L"call GetAppointmentProperty(AppProp string) string", "Unknown Property "},
+    {0x60030011, L"call SetAppointmentProperty(AppProp string, PropertyValue string) flag",
+     "Unknown Property ", true},
+    {0x60030012, L"call GetRecurrencePattern() flag", ""},
+    {0x60030013, L"call ClearRecurrencePattern() flag", ""},
+    {0x60030014, L"call GetRecurrenceProperty(RecurProp string) string", "Unknown Property : "},
+    {0x60030015, L"call SetRecurrenceProperty(RecurProp string, PropertyValue string) string",
+     "Unknown property "},
+    {0x60030016, L"call GetExceptionProperty(Instance short, ExceptProp string) string", ""},
+    {0x60030017, L"call GetContactProperty(ContactProp string) string", "Unknown Property "},
+    {0x60030018, L"call SetContactProperty(ContactProp string, PropertyValue string) flag",
+     "Unknown Property ", true},
+    {0x60030019, L"call GetTaskProperty(TaskProp string) string", "Unknown Task Property "},
+    {0x6003001A, L"call SetTaskProperty(TaskProperty string, PropertyValue string) flag", "unknown property ",
+     true},
+    {0x6003001B, L"call GetEmailProperty(EmailProp string) string", "Unknown Property "},
+    {0x6003001C, L"call GetNoteProperty(NoteProperty string) string", "Unknown Property "},
+    {0x6003001D, L"call SetNoteProperty(NoteProperty string, PropertyValue string) flag", "Unknown Property ",
+     true},
+    {0x6003001E, L"call GetLastErrorNumber() short", ""},
+    {0x6003001F, L"call GetLastErrorDescription() string", ""}};
 
 inline std::vector<Member> members_of(const ClassIds& ids) {
   if (&ids == &classes[1]) return {std::begin(outlook_members), std::end(outlook_members)};

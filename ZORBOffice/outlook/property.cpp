@@ -1,0 +1,125 @@
+#include "ZORBOffice/outlook/property.h"
+
+#include <algorithm>
+#include <string>
+
+#include "ZORBOffice/common/conversions.h"
+#include "ZORBOffice/common/message_box.h"
+
+namespace zorboffice {
+namespace {
+
+Result value_of(const AutomationObject& item, const wchar_t* member) { return item.typed().get(member); }
+
+template <const wchar_t* picture>
+Bstr read_date(const AutomationObject& item, const wchar_t* member) {
+  return formatted(value_of(item, member).date(), picture);
+}
+
+constexpr wchar_t date_picture[] = L"dd/MM/yyyy";
+constexpr wchar_t time_picture[] = L"HH:mm:ss";
+
+Bstr joined_values(const AutomationObject& item, const wchar_t* members) {
+  std::wstring joined;
+  for (std::wstring_view rest = members; !rest.empty();) {
+    if (rest.data() != members) joined += L' ';
+    const std::wstring member(rest.substr(0, rest.find(L' ')));
+    joined += value_of(item, member.c_str()).text().view();
+    rest.remove_prefix(std::min(member.size() + 1, rest.size()));
+  }
+  return Bstr(joined);
+}
+
+template <const wchar_t* element_member>
+Bstr joined_elements(const AutomationObject& item, const wchar_t* member) {
+  std::wstring joined;
+  value_of(item, member).object().for_each([&](const Result& element) {
+    if (!joined.empty()) joined += L';';
+    joined += element.get(element_member).text().view();
+  });
+  return Bstr(joined);
+}
+
+constexpr wchar_t name[] = L"Name";
+constexpr wchar_t display_name[] = L"DisplayName";
+
+const Property* find(std::span<const Property> properties, BSTR key, auto is_served) {
+  const auto row = std::ranges::find_if(
+      properties, [&](const Property& property) { return property.key == view(key) && is_served(property); });
+  return row == properties.end() ? nullptr : &*row;
+}
+
+}  // namespace
+
+constinit const Format as_text = {"text", [](const AutomationObject& item, const wchar_t* member) {
+                                    return value_of(item, member).text();
+                                  }};
+constinit const Format as_decimal = {"decimal", [](const AutomationObject& item, const wchar_t* member) {
+                                       return decimal(value_of(item, member).int32());
+                                     }};
+constinit const Format as_flag = {"`True` or `False`",
+                                  [](const AutomationObject& item, const wchar_t* member) {
+                                    return Bstr(value_of(item, member).flag() ? L"True" : L"False");
+                                  }};
+constinit const Format as_date_time = {"date and time as the user's settings have them",
+                                       [](const AutomationObject& item, const wchar_t* member) {
+                                         return general_date(value_of(item, member).date());
+                                       }};
+constinit const Format as_date = {"`dd/MM/yyyy`", read_date<date_picture>};
+constinit const Format as_time = {"`HH:mm:ss`", read_date<time_picture>};
+constinit const Format as_name = {"its `Name`", [](const AutomationObject& item, const wchar_t* member) {
+                                    return value_of(item, member).get(L"Name").text();
+                                  }};
+constinit const Format as_count = {"its `Count`, decimal",
+                                   [](const AutomationObject& item, const wchar_t* member) {
+                                     return decimal(value_of(item, member).get(L"Count").int32());
+                                   }};
+constinit const Format as_joined_values = {"the texts, joined by a blank, empty ones too", joined_values};
+constinit const Format as_names = {"each `Name`, joined by `;`", joined_elements<name>};
+constinit const Format as_display_names = {"each `DisplayName`, joined by `;`",
+                                           joined_elements<display_name>};
+
+constinit const Conversion from_text = {"text",
+                                        [](const AutomationObject& item, const wchar_t* member, BSTR value) {
+                                          item.typed().put(member, Argument::text(value));
+                                        }};
+constinit const Conversion from_flag = {"`True`, `False` or a number",
+                                        [](const AutomationObject& item, const wchar_t* member, BSTR value) {
+                                          const bool converted = flag_of(value);
+                                          item.typed().put(member, converted);
+                                        }};
+constinit const Conversion from_int16 = {"number of 16 bits, rounded",
+                                         [](const AutomationObject& item, const wchar_t* member, BSTR value) {
+                                           const LONG converted = int16_of(value);
+                                           item.typed().put(member, converted);
+                                         }};
+constinit const Conversion from_date = {"date, time or both as the user's settings have them",
+                                        [](const AutomationObject& item, const wchar_t* member, BSTR value) {
+                                          const DATE converted = date_of(value);
+                                          item.typed().put(member, Argument::date(converted));
+                                        }};
+
+const Property* find_readable(std::span<const Property> properties, BSTR key) {
+  return find(properties, key, [](const Property& property) { return property.format != nullptr; });
+}
+
+const Property* find_writable(std::span<const Property> properties, BSTR key) {
+  return find(properties, key, [](const Property& property) { return property.conversion != nullptr; });
+}
+
+Bstr read_property(std::span<const Property> properties, AutomationObject item, BSTR key,
+                   const wchar_t* unknown_key) {
+  const Property* property = find_readable(properties, key);
+  if (property) return property->format->read(item, property->member);
+  show_message(concatenated({unknown_key, view(key)}));
+  return Bstr();
+}
+
+void write_property(std::span<const Property> properties, AutomationObject item, BSTR key, BSTR value,
+                    const wchar_t* unknown_key) {
+  const Property* property = find_writable(properties, key);
+  if (property) return property->conversion->write(item, property->member, value);
+  show_message(concatenated({unknown_key, view(key)}));
+}
+
+}  // namespace zorboffice

@@ -1,0 +1,56 @@
+// Single properties of Outlook's objects by a key given as text: a row names the key, the member behind it,
+// and how its value becomes text and text its value.
+#pragma once
+
+#include <windows.h>
+
+#include <span>
+#include <string_view>
+
+#include "ZORBOffice/common/automation_object.h"
+
+namespace zorboffice {
+
+// The description is for the reference page.
+struct Format {
+  const char* description;
+  Bstr (*read)(const AutomationObject& item, const wchar_t* member);
+};
+
+// Converts before it touches the item.
+struct Conversion {
+  const char* description;
+  void (*write)(const AutomationObject& item, const wchar_t* member, BSTR value);
+};
+
+struct Property {
+  std::wstring_view key;
+  const wchar_t* member;                   // of Outlook's object model
+  const Format* format = nullptr;          // null: this row is not for reading
+  const Conversion* conversion = nullptr;  // null: this row is not for writing
+};
+
+// A text that is read and written as it is, under Outlook's own name.
+constexpr Property text_property(const wchar_t* name);
+
+extern const Format as_text, as_decimal, as_flag, as_date_time, as_date, as_time;
+extern const Format as_name;                     // the Name of the object there
+extern const Format as_count;                    // the Count of the collection there
+extern const Format as_joined_values;            // members separated by blanks; their texts joined by a blank
+extern const Format as_names, as_display_names;  // those of the collection's elements, joined by ";"
+extern const Conversion from_text, from_flag, from_int16, from_date;
+
+// The first row with that key that can be read or written; null where there is none.
+const Property* find_readable(std::span<const Property> properties, BSTR key);
+const Property* find_writable(std::span<const Property> properties, BSTR key);
+
+// Reads or writes the property of that key. A key that no row has is said in a box, after the lead-in, before
+// the item is looked at; reading it gives "". No item is the failure "Object variable … not set".
+Bstr read_property(std::span<const Property> properties, AutomationObject item, BSTR key,
+                   const wchar_t* unknown_key);
+void write_property(std::span<const Property> properties, AutomationObject item, BSTR key, BSTR value,
+                    const wchar_t* unknown_key);
+
+constexpr Property text_property(const wchar_t* name) { return {name, name, &as_text, &from_text}; }
+
+}  // namespace zorboffice
