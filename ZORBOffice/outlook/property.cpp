@@ -88,16 +88,17 @@ constinit const Conversion from_flag = {"`True`, `False` or a number",
                                           const bool converted = flag_of(value);
                                           item.typed().put(member, converted);
                                         }};
-constinit const Conversion from_int16 = {"number of 16 bits, rounded",
-                                         [](const AutomationObject& item, const wchar_t* member, BSTR value) {
-                                           const LONG converted = int16_of(value);
-                                           item.typed().put(member, converted);
-                                         }};
+constinit const Conversion from_int16 = {"number of 16 bits, rounded", write_int16};
 constinit const Conversion from_date = {"date, time or both as the user's settings have them",
                                         [](const AutomationObject& item, const wchar_t* member, BSTR value) {
                                           const DATE converted = date_of(value);
                                           item.typed().put(member, Argument::date(converted));
                                         }};
+
+void write_int16(const AutomationObject& item, const wchar_t* member, BSTR value) {
+  const LONG converted = int16_of(value);
+  item.typed().put(member, converted);
+}
 
 const Property* find_readable(std::span<const Property> properties, BSTR key) {
   return find(properties, key, [](const Property& property) { return property.format != nullptr; });

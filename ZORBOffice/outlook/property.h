@@ -38,6 +38,9 @@ extern const Format as_name;                     // the Name of the object there
 extern const Format as_count;                    // the Count of the collection there
 extern const Format as_joined_values;            // members separated by blanks; their texts joined by a blank
 extern const Format as_names, as_display_names;  // those of the collection's elements, joined by ";"
+// Rounds, and widens to the 32 bits that Outlook's members have.
+void write_int16(const AutomationObject& item, const wchar_t* member, BSTR value);
+
 extern const Conversion from_text, from_flag, from_int16, from_date;
 
 // The first row with that key that can be read or written; null where there is none.

@@ -25,21 +25,27 @@ constinit const Format as_exception_list = {
       return Bstr(list);
     }};
 
+// recurrence.cpp warns of what is out of bounds, and writes the replacement.
+constinit const Conversion from_day = {"1 to 31; otherwise a warning, and 1", write_int16};
+constinit const Conversion from_mask = {"1 to 127; above, a warning and 127; below, a warning and 2",
+                                        write_int16};
+constinit const Conversion from_type = {"0, 1, 2, 3, 5 or 6; otherwise a warning, and 0", write_int16};
+
 constexpr Property pattern_rows[] = {
     {L"Class", L"Class", &as_decimal},
-    {L"DayOfMonth", L"DayOfMonth", &as_decimal, &from_int16},
-    {L"DayOfWeekMask", L"DayOfWeekMask", &as_decimal, &from_int16},
+    {L"DayOfMonth", L"DayOfMonth", &as_decimal, &from_day},
+    {L"DayOfWeekMask", L"DayOfWeekMask", &as_decimal, &from_mask},
     {L"Duration", L"Duration", &as_decimal, &from_int16},
     {L"EndTime", L"EndTime", &as_date_time, &from_date},
     {L"Interval", L"Interval", &as_decimal, &from_int16},
     {L"Instance", L"Instance", &as_decimal, &from_int16},
-    {L"MonthOfYear", L"MonthOfYear", &as_decimal, &from_int16},
+    {L"MonthOfYear", L"MonthOfYear", &as_decimal, &from_day},
     {L"NoEndDate", L"NoEndDate", &as_flag, &from_flag},
     {L"Occurrences", L"Occurrences", &as_decimal, &from_int16},
     {L"PatternEndDate", L"PatternEndDate", &as_date, &from_date},
     {L"PatternStartDate", L"PatternStartDate", &as_date},
     {L"PatternStartDate", L"PatternEndDate", nullptr, &from_date},  // hosts know it so: the start stays
-    {L"RecurrenceType", L"RecurrenceType", &as_decimal, &from_int16},
+    {L"RecurrenceType", L"RecurrenceType", &as_decimal, &from_type},
     {L"StartTime", L"StartTime", &as_date_time, &from_date},
     {L"Exception Count", L"Exceptions", &as_count},
     {L"Exception List", L"Exceptions", &as_exception_list},

@@ -11,6 +11,9 @@ namespace zorboffice {
 // failure; failures are kept for GetLastErrorNumber and GetLastErrorDescription. A null result pointer gives
 // E_POINTER.
 //
+// Property keys are compared exactly; docs/outlook-properties.md lists them. An unknown key is said in a message
+// box, and a setter then returns true all the same. Writing a property does not save the item.
+//
 // Every trap records the failure; OpenItem, InitItems, SaveEmailAttachment, GetFirstItem, GetNextItem,
 // NewEmail, SetRecurrenceProperty and the contact and task property members also show a message box. The last
 // two members have no trap.
