@@ -48,9 +48,9 @@ void write_section(std::FILE* page, const Section& section) {
       page, "\n## %s\n\nOf %s.\n\n| Key | Outlook's member | Read as | Written from |\n|---|---|---|---|\n",
       section.title, section.object);
   for (const Property& property : section.properties) {
-    std::fprintf(page, "| `%s` | %s | %s | %s |\n", narrow(property.key).c_str(),
-                 members(property.member).c_str(), property.format ? property.format->description : "",
-                 property.conversion ? property.conversion->description : "");
+    (void)std::fprintf(page, "| `%s` | %s | %s | %s |\n", narrow(property.key).c_str(),
+                       members(property.member).c_str(), property.format ? property.format->description : "",
+                       property.conversion ? property.conversion->description : "");
   }
 }
 

@@ -25,7 +25,8 @@ Bstr general_date(DATE date) {
 }
 
 Bstr formatted(DATE date, const wchar_t* picture) {
-  constexpr int sunday = 1, week_of_first_january = 1;  // vbSunday and vbFirstJan1 of the Basic runtime
+  constexpr int sunday = 1;                 // vbSunday of the Basic runtime
+  constexpr int week_of_first_january = 1;  // vbFirstJan1
   VARIANT value;
   VariantInit(&value);
   V_VT(&value) = VT_DATE;

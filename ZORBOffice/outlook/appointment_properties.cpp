@@ -8,7 +8,8 @@ namespace {
 constinit const Conversion from_privacy = {
     "2 is private (2), any other number of 16 bits normal (0)",
     [](const AutomationObject& item, const wchar_t* member, BSTR value) {
-      constexpr LONG normal = 0, is_private = 2;  // olNormal, olPrivate
+      constexpr LONG normal = 0;      // olNormal
+      constexpr LONG is_private = 2;  // olPrivate
       const LONG converted = int16_of(value) == is_private ? is_private : normal;
       item.typed().put(member, converted);
     }};

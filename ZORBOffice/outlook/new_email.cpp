@@ -40,7 +40,9 @@ HRESULT ZORBOutlook::NewEmail(BSTR*, BSTR* ToAddress, BSTR* CCAddress, BSTR* BCC
     const auto trap = shown_and_stored(L"New Email ");
     const auto step = [&](const auto& body) { resuming(trap, body); };
 
-    AutomationObject application, session, mail;
+    AutomationObject application;
+    AutomationObject session;
+    AutomationObject mail;
     step([&] { application = AutomationObject::create(L"Outlook.Application"); });
     step([&] { session = application.get(L"GetNamespace", Bstr(L"MAPI")).object(); });
     step([&] { mail = application.get(L"CreateItem", mail_item).object(); });

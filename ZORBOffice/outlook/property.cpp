@@ -108,18 +108,20 @@ const Property* find_writable(std::span<const Property> properties, BSTR key) {
   return find(properties, key, [](const Property& property) { return property.conversion != nullptr; });
 }
 
-Bstr read_property(std::span<const Property> properties, AutomationObject item, BSTR key,
+Bstr read_property(std::span<const Property> properties, const AutomationObject& item, BSTR key,
                    const wchar_t* unknown_key) {
+  const AutomationObject held = item;
   const Property* property = find_readable(properties, key);
-  if (property) return property->format->read(item, property->member);
+  if (property) return property->format->read(held, property->member);
   show_message(concatenated({unknown_key, view(key)}));
   return Bstr();
 }
 
-void write_property(std::span<const Property> properties, AutomationObject item, BSTR key, BSTR value,
+void write_property(std::span<const Property> properties, const AutomationObject& item, BSTR key, BSTR value,
                     const wchar_t* unknown_key) {
+  const AutomationObject held = item;
   const Property* property = find_writable(properties, key);
-  if (property) return property->conversion->write(item, property->member, value);
+  if (property) return property->conversion->write(held, property->member, value);
   show_message(concatenated({unknown_key, view(key)}));
 }
 
