@@ -28,9 +28,9 @@ std::string name_of(DISPID identifier) {
 const std::map<WORD, const char*> invocations = {{DISPATCH_METHOD | DISPATCH_PROPERTYGET, "get "},
                                                  {DISPATCH_METHOD, "call "},
                                                  {DISPATCH_PROPERTYPUT, "put "}};
-const std::map<VARTYPE, const char*> kinds = {{VT_UI1, "ui1 "},  {VT_I2, "i2 "}, {VT_I4, "i4 "},
-                                              {VT_INT, "int "},  {VT_R4, "r4 "}, {VT_R8, "r8 "},
-                                              {VT_BOOL, "bool "}};
+const std::map<VARTYPE, const char*> kinds = {{VT_UI1, "ui1 "},   {VT_I2, "i2 "},    {VT_I4, "i4 "},
+                                              {VT_INT, "int "},   {VT_R4, "r4 "},    {VT_R8, "r8 "},
+                                              {VT_BOOL, "bool "}, {VT_DATE, "date "}};
 
 std::string known_as(const auto& table, WORD key) {
   const auto found = table.find(key);
