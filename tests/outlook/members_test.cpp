@@ -4,169 +4,149 @@
 
 namespace {
 
-// A member's call on a ready control, its result, its steps, and what it replaces in what the control holds.
+// A member's call on a ready control, its steps, what it holds then instead of what, as "earlier>later", and
+// its result. A row with an @ stands for one row a kind, with the kind's @item, @found and so on.
 struct Row {
-  std::wstring member;
+  const wchar_t* member;
   std::vector<_variant_t> arguments;
-  const char* result;
-  std::string steps;
-  std::pair<std::string, std::string> replaced = {};
+  std::string steps, change = "", result = "bool -1";
   std::map<std::string, Answer> answers = {};
 };
 
-const _variant_t nothing(static_cast<IDispatch*>(nullptr));
-const std::string first_report =
-    "get Email.Attachments | get Attachments.[newenum] | next Attachments | get Email.Body | get "
-    "Logo.FileName"
-    " | next Attachments | get Email.Body | get Report.FileName";
-const std::string then_figures = " | next Attachments | get Email.Body | get Figures.FileName";
+const std::string report =
+    "get Email.Attachments | get Attachments.[newenum] | next Attachments | get Email.Body"
+    " | get Logo.FileName | next Attachments | get Email.Body | get Report.FileName | ";
+const std::string figures = "next Attachments | get Email.Body | get Figures.FileName | ";
+const std::string filled = "get NameSpace.GetDefaultFolder(i4 @number) | get @folder.Items | ";
+const std::string sent = "get NameSpace.GetDefaultFolder(i4 5) | get SentMail.Items | ";
+const std::string gone = "get NameSpace.GetDefaultFolder(i4 3) | get DeletedItems.Items";
+const std::string restricted = R"(get Fresh.Restrict(bstr "a = ' '"))", of_class = " | get @found.Class";
+const std::string sorted = R"(call Fresh.Sort(bstr "[@key]"))",
+                  chosen = R"( | call Chosen.Sort(bstr "[@key]"))";
+const std::string two = "get NoteItems.GetFirst | get Foreign.Class | get NoteItems.GetNext";
+const std::string pattern = "get Appointment.GetRecurrencePattern",
+                  instance = pattern + " | get Pattern.GetOccurrence(date 07/21/2007 09:30:00)";
+const Answer nothing = {_variant_t(static_cast<IDispatch*>(nullptr))};
+const std::pair<const std::string, Answer> foreign = {"NoteItems.GetFirst", {.object = "Foreign"}},
+                                           end = {"NoteItems.GetNext", nothing};
 
-// The rows of InitItems for a word and the kind whose collection it fills.
-void add_filling(std::vector<Row>& rows, const std::wstring& word, const ItemKind& kind, int number,
-                 const std::string& folder, const std::string& key) {
-  for (const auto* condition : {L"", L"[Subject] = 'a'", L" "}) {
-    const std::string chosen = *condition ? "Chosen" : "Fresh";
-    std::string steps =
-        "get NameSpace.GetDefaultFolder(i4 " + std::to_string(number) + ") | get " + folder + ".Items";
-    if (*condition) steps += " | get Fresh.Restrict(bstr \"" + utf8(condition) + "\")";
-    if (!key.empty()) steps += " | call " + chosen + ".Sort(bstr \"[" + key + "]\")";
-    rows.push_back({L"InitItems",
-                    {word.c_str(), condition},
-                    "bool -1",
-                    steps,
-                    {kind.items, chosen},
-                    {{folder + ".Items", {.object = "Fresh"}}, {"Fresh.Restrict", {.object = "Chosen"}}}});
-  }
+const Row rows[] = {
+    {L"StartOutlook", {}, R"(create Outlook.Application | get Application.GetNamespace(bstr "MAPI"))"},
+    {L"StopOutlook", {}, ""},
+    {L"StopOutlook", {false}, ""},
+    {L"StopOutlook", {true}, "call Application.Quit"},
+    {L"InitItems", {L"@", L""}, filled + sorted, "@items>Fresh"},
+    {L"InitItems", {L"@", L"a = ' '"}, filled + restricted + chosen, "@items>Chosen"},
+    {L"InitItems", {L"Deleted @", L""}, gone, "@items>Fresh"},
+    {L"InitItems", {L"Deleted @", L"a = ' '"}, gone + " | " + restricted, "@items>Chosen"},
+    {L"InitItems",
+     {L"Sent Items", L""},
+     sent + R"(call Fresh.Sort(bstr "[CreationTime]"))",
+     "EmailItems>Fresh"},
+    {L"GetItemCount", {L"@"}, "get @items.Count", "", "i2 7"},
+    {L"GetFirstItem", {L"@"}, "get @items.GetFirst" + of_class, "@item>@found"},
+    {L"GetNextItem", {L"@"}, "get @items.GetNext" + of_class, "@item>@found"},
+    {L"GetFirstItem", {L"Note"}, two + " | get FoundNote.Class", "Note>FoundNote", "bool -1", {foreign}},
+    {L"GetFirstItem", {L"Note"}, two, "", "bool 0", {foreign, end}},
+    {L"GetFirstItem", {L"Note"}, "get NoteItems.GetFirst", "", "bool 0", {{"NoteItems.GetFirst", nothing}}},
+    {L"GetNextItem", {L"Note"}, "get NoteItems.GetNext", "", "bool 0", {end}},
+    {L"GetItem", {L"@", L"@"}, R"(get NameSpace.GetItemFromID(bstr "@item"))" + of_class, "@item>@found"},
+    {L"GetRecurrencePattern", {}, pattern},
+    {L"GetAppointmentInstance", {L"21/07/2007 09:30:00"}, instance, "Appointment>Occurrence"},
+    {L"CreateItem", {L"@"}, "get Application.CreateItem(i4 @type)", "@item>Made"},
+    {L"OpenItem", {L"@"}, "call @item.Display"},
+    {L"DeleteItem", {L"@"}, "call @item.Delete"},
+    {L"SaveItem", {L"@"}, "call @item.Save"},
+    {L"SaveItemToFile", {L"@", L"C:\\a b"}, R"(call @item.SaveAs(bstr "C:\a b"))"},
+    {L"SaveEmailAttachment", {short{1}, L"C:\\r"}, report + R"(call Report.SaveAsFile(bstr "C:\r"))"},
+    {L"SaveEmailAttachment", {short{2}, L""}, report + figures + R"(call Figures.SaveAsFile(bstr ""))"},
+    {L"SaveEmailAttachment", {short{3}, L"a"}, report + figures + "next Attachments"},
+};
+
+template <class Text>
+Text with(Text text, const Text& part, const Text& other) {
+  for (size_t at = 0; (at = text.find(part, at)) != text.npos; at += other.size())
+    text.replace(at, part.size(), other);
+  return text;
 }
 
 std::vector<Row> all_rows() {
-  const Answer foreign = {.object = "Foreign"}, end = {.value = nothing};
-  const std::string skipping =
-      "get ContactItems.GetFirst | get Foreign.Class | get ContactItems.GetNext | get FoundContact.Class";
-  std::vector<Row> rows = {
-      {L"StartOutlook",
-       {},
-       "bool -1",
-       "create Outlook.Application | get Application.GetNamespace(bstr \"MAPI\")"},
-      {L"StopOutlook", {}, "bool -1", ""},
-      {L"StopOutlook", {false}, "bool -1", ""},
-      {L"StopOutlook", {true}, "bool -1", "call Application.Quit"},
-      {L"GetRecurrencePattern", {}, "bool -1", "get Appointment.GetRecurrencePattern"},
-      {L"GetAppointmentInstance",
-       {L"21/07/2007 09:30:00"},
-       "bool -1",
-       "get Appointment.GetRecurrencePattern | get Pattern.GetOccurrence(date 07/21/2007 09:30:00)",
-       {"Appointment", "Occurrence"}},
-      {L"SaveEmailAttachment",
-       {1, L"C:\\r"},
-       "bool -1",
-       first_report + " | call Report.SaveAsFile(bstr \"C:\\r\")"},
-      {L"SaveEmailAttachment",
-       {2, L""},
-       "bool -1",
-       first_report + then_figures + " | call Figures.SaveAsFile(bstr \"\")"},
-      {L"SaveEmailAttachment", {3, L"a"}, "bool -1", first_report + then_figures + " | next Attachments"},
-      {L"GetFirstItem",
-       {L"Contact"},
-       "bool -1",
-       skipping,
-       {"Contact", "FoundContact"},
-       {{"ContactItems.GetFirst", foreign}}},
-      {L"GetFirstItem",
-       {L"Contact"},
-       "bool 0",
-       skipping.substr(0, skipping.rfind(" | ")),
-       {},
-       {{"ContactItems.GetFirst", foreign}, {"ContactItems.GetNext", end}}},
-      {L"GetFirstItem", {L"Task"}, "bool 0", "get TaskItems.GetFirst", {}, {{"TaskItems.GetFirst", end}}},
-      {L"GetNextItem", {L"Task"}, "bool 0", "get TaskItems.GetNext", {}, {{"TaskItems.GetNext", end}}},
-  };
-  const char* sort_keys[] = {"Start", "FullName", "Subject", "DueDate", "CreationTime"};
-  for (const auto& kind : item_kinds) {
-    const std::string name = kind.name, found = kind.found, items = kind.items;
-    const _variant_t word = kind.word;
-    const std::pair<std::string, std::string> made_current = {name, found};
-    const std::string by_class = " | get " + found + ".Class";
-    rows.insert(
-        rows.end(),
-        {{L"OpenItem", {word}, "bool -1", "call " + name + ".Display"},
-         {L"DeleteItem", {word}, "bool -1", "call " + name + ".Delete"},
-         {L"SaveItem", {word}, "bool -1", "call " + name + ".Save"},
-         {L"SaveItemToFile", {word, L"C:\\a b"}, "bool -1", "call " + name + ".SaveAs(bstr \"C:\\a b\")"},
-         {L"CreateItem",
-          {word},
-          "bool -1",
-          "get Application.CreateItem(i4 " + std::to_string(kind.item_type) + ")",
-          {name, "Made"},
-          {{"Application.CreateItem", {.object = "Made"}}}},
-         {L"GetItem",
-          {word, word},
-          "bool -1",
-          "get NameSpace.GetItemFromID(bstr \"" + utf8(kind.word) + "\")" + by_class,
-          made_current},
-         {L"GetItemCount", {word}, "i2 7", "get " + items + ".Count"},
-         {L"GetFirstItem", {word}, "bool -1", "get " + items + ".GetFirst" + by_class, made_current},
-         {L"GetNextItem", {word}, "bool -1", "get " + items + ".GetNext" + by_class, made_current}});
-    const auto* key = sort_keys[&kind - item_kinds];
-    add_filling(rows, kind.word, kind, kind.folder_number, kind.folder, key);
-    add_filling(rows, std::wstring(L"Deleted ") + kind.word, kind, 3, "DeletedItems", "");
-  }
-  add_filling(rows, L"Sent Items", item_kinds[4], 5, "SentMail", "CreationTime");
-  return rows;
+  const char* const sort_keys[] = {"Start", "FullName", "Subject", "DueDate", "CreationTime"};
+  std::vector<Row> all;
+  for (const Row& row : rows)
+    for (const auto& kind : item_kinds) {
+      all.push_back(row);
+      Row& own = all.back();
+      const std::pair<std::string, std::string> parts[] = {{"@items", kind.items},
+                                                           {"@item", kind.name},
+                                                           {"@found", kind.found},
+                                                           {"@number", std::to_string(kind.folder_number)},
+                                                           {"@folder", kind.folder},
+                                                           {"@type", std::to_string(kind.item_type)},
+                                                           {"@key", sort_keys[&kind - item_kinds]}};
+      for (auto* text : {&own.steps, &own.change})
+        for (const auto& [part, name] : parts) *text = with(*text, part, name);
+      for (auto& argument : own.arguments)
+        if (argument.vt == VT_BSTR) argument = with<std::wstring>(argument.bstrVal, L"@", kind.word).c_str();
+      if (own.arguments == row.arguments) break;
+    }
+  return all;
 }
 
 class Members : public OutlookTest, public testing::WithParamInterface<Row> {
  protected:
+  // Makes a control ready, and everything that it fetches from then on new.
   void make_row_ready() {
     outlook_.answers = usual_;
     make_ready();
-    usual_held_ = held();
-    for (const auto& [path, answer] : row_.answers) outlook_.answers[path] = answer;
-    // CreateItem's usual answers name their argument.
-    if (row_.member == L"CreateItem")
-      std::erase_if(outlook_.answers,
-                    [](auto& known) { return known.first.find("CreateItem(") != known.first.npos; });
+    kept_ = held();
+    auto answers = row_.answers;
+    answers["Fresh.Restrict"] = {.object = "Chosen"};
+    for (const auto* items : {"Calendar", "Contacts", "Notes", "Tasks", "Inbox", "SentMail", "DeletedItems"})
+      answers[std::string(items) + ".Items"] = {.object = "Fresh"};
+    for (const auto* type : {"0", "1", "2", "3", "5"})
+      answers["Application.CreateItem(i4 " + std::string(type) + ")"] = {.object = "Made"};
+    answers.merge(outlook_.answers);
+    outlook_.answers = answers;
   }
-
-  std::string held_with(const std::string& earlier, const std::string& later) const {
-    std::string names = usual_held_;
-    if (const auto at = names.find("|" + earlier + "|"); !earlier.empty() && at != names.npos)
-      names.replace(at + 1, earlier.size(), later);
-    return names;
+  // What is held with the row's change, which goes as far as `last`.
+  std::string held_after(const std::string& last) const {
+    const std::string earlier = "|" + row_.change.substr(0, row_.change.find('>')) + "|";
+    return last.empty() ? kept_ : with(kept_, earlier, "|" + last + "|");
   }
-
-  // The message box of a failure after the steps `done`, "" for none.
-  std::string message(const std::string& description, const std::string& done) const {
-    const auto argument = [this](size_t index) { return utf8(row_.arguments[index].bstrVal) + " "; };
-    if (row_.member == L"OpenItem") return "open item " + argument(0) + description;
-    if (row_.member == L"InitItems") return "init items " + argument(0) + argument(1) + description;
-    if (row_.member == L"GetNextItem" || done.find(".GetNext") != done.npos)
+  // The message box of a failure at the last of the steps `reached`, "" for none.
+  std::string message(const std::string& description, const std::string& reached) const {
+    const auto argument = [this](int index) { return utf8(row_.arguments[index].bstrVal) + " "; };
+    const std::wstring_view member = row_.member;
+    if (member == L"OpenItem") return "open item " + argument(0) + description;
+    if (member == L"InitItems") return "init items " + argument(0) + argument(1) + description;
+    if (member == L"GetNextItem" || reached.find(".GetNext") != reached.npos)
       return "next item " + description;
-    if (row_.member == L"GetFirstItem") return "first item " + description;
-    if (row_.member == L"SaveEmailAttachment") return "Couldn't save Attachment " + description + " : 0 : 1";
-    return "";
+    if (member == L"GetFirstItem") return "first item " + description;
+    return facts_.empty() ? "" : "Couldn't save Attachment " + description + " : 0 : 1";
   }
-  const char* failed() const { return row_.member == L"GetItemCount" ? "i2 0" : "bool 0"; }
 
   const Row& row_ = GetParam();
   const std::map<std::string, Answer> usual_ = outlook_.answers;
-  std::string usual_held_;
+  const std::string failed_ = row_.result.starts_with("i2") ? "i2 0" : "bool 0";
+  // The steps that the message box of SaveEmailAttachment takes.
+  const std::string facts_ = row_.steps.find(".FileName") == std::string::npos
+                                 ? ""
+                                 : " | get Email.Attachments | get Attachments.Item(" +
+                                       describe(row_.arguments[0]) +
+                                       ") | get Attachment.BlockLevel | get Attachment.Type";
+  std::string kept_;
 };
 
 TEST_P(Members, TakeTheirSteps) {
   make_row_ready();
-  expect(row_.member.c_str(), row_.arguments, row_.result);
+  expect(row_.member, row_.arguments, row_.result);
   EXPECT_EQ(log(), row_.steps);
   EXPECT_EQ(last_error(), unset) << "success does not clear the last error";
-  EXPECT_EQ(held(), held_with(row_.replaced.first, row_.replaced.second));
+  EXPECT_EQ(held(), held_after(row_.change.substr(row_.change.find('>') + 1)));
 }
 
 TEST_P(Members, StopAtTheStepThatFails) {
-  std::string facts;
-  if (row_.member == L"SaveEmailAttachment")
-    facts = " | get Email.Attachments | get Attachments.Item(" +
-            describe(_variant_t(short(row_.arguments[0]))) +
-            ") | get Attachment.BlockLevel | get Attachment.Type";
   for (size_t step = 1, end = row_.steps.empty() ? std::string::npos : 0; end != std::string::npos; ++step) {
     SCOPED_TRACE(step);
     make_row_ready();
@@ -174,23 +154,21 @@ TEST_P(Members, StopAtTheStepThatFails) {
     end = row_.steps.find(" | ", end + 1);
     const std::string reached = row_.steps.substr(0, end), shown = message("No such member.", reached);
     outlook_.fail_at = step;
-    expect(row_.member.c_str(), row_.arguments, failed(), shown);
-    EXPECT_EQ(log(), reached + facts);
+    expect(row_.member, row_.arguments, failed_, shown);
+    EXPECT_EQ(log(), reached + facts_);
     EXPECT_EQ(errors_at_boxes_, std::vector<std::string>(shown.empty() ? 0 : 1, unset)) << "box first";
     EXPECT_EQ(last_error(), recorded(5941, "No such member."));
     outlook_.fail_at = 0;
-    // The collection is replaced where it is fetched, and again where it is restricted.
-    std::string later;
-    if (row_.member == L"InitItems" && done.find(".Items") != done.npos) later = "Fresh";
-    if (done.find(".Restrict") != done.npos) later = "Chosen";
-    EXPECT_EQ(held(), later.empty() ? usual_held_ : held_with(row_.replaced.first, later));
+    // The collection is replaced as soon as it is fetched, and again as soon as it is restricted.
+    const bool fetched = done.find(".Items") != done.npos, restricted = done.find(".Restrict") != done.npos;
+    EXPECT_EQ(held(), held_after(restricted ? "Chosen" : fetched ? "Fresh" : ""));
   }
 }
 
 TEST_P(Members, NeedWhatTheirFirstStepIsAskedOf) {
   if (row_.steps.empty() || row_.steps.starts_with("create")) return;
-  const bool raises = row_.member == L"SaveEmailAttachment";  // the box needs the e-mail, too
-  expect(row_.member.c_str(), row_.arguments, raises ? "raised 800A005B " + not_set : failed(),
+  const bool raises = !facts_.empty();  // without an e-mail there are none
+  expect(row_.member, row_.arguments, raises ? "raised 800A005B " + not_set : failed_,
          raises ? "" : message(not_set, ""));
   EXPECT_EQ(last_error(), raises ? recorded(0, "") : unset);
   EXPECT_EQ(log(), "");
@@ -198,10 +176,7 @@ TEST_P(Members, NeedWhatTheirFirstStepIsAskedOf) {
 
 void PrintTo(const Row& row, std::ostream* out) { *out << utf8(row.member) << ": " << row.steps; }
 
-std::string name_of(const testing::TestParamInfo<Row>& row) {
-  return utf8(row.param.member) + std::to_string(row.index);
-}
-
-INSTANTIATE_TEST_SUITE_P(Outlook, Members, testing::ValuesIn(all_rows()), name_of);
+INSTANTIATE_TEST_SUITE_P(Outlook, Members, testing::ValuesIn(all_rows()),
+                         [](const auto& row) { return utf8(row.param.member) + std::to_string(row.index); });
 
 }  // namespace

@@ -5,11 +5,7 @@
 #include "support/late_call.h"
 #include "support/text.h"
 
-namespace {
-
-OutlookTest* running;
-
-}  // namespace
+static OutlookTest* running;
 
 OutlookTest::OutlookTest() {
   running = this;
@@ -39,35 +35,41 @@ void OutlookTest::make_ready() {
   expect(L"StopOutlook", {true}, "bool 0");
   expect(L"StartOutlook", {}, "bool -1");
   for (const auto& kind : item_kinds) {
-    expect(L"InitItems", {kind.word, L""}, "bool -1");
+    expect(L"InitItems", {kind.word, text({})}, "bool -1");
     expect(L"CreateItem", {kind.word}, "bool -1");
   }
   log();
 }
 
+std::string OutlookTest::call(const wchar_t* member, const Arguments& arguments) {
+  return late_call(control_.Get(), member, arguments);
+}
+
 void OutlookTest::expect(const wchar_t* member, const Arguments& arguments, const std::string& result,
                          const std::string& shown) {
   errors_at_boxes_.clear();
-  EXPECT_EQ(late_call(control_.Get(), member, arguments), result) << utf8(member);
+  EXPECT_EQ(call(member, arguments), result) << utf8(member);
   std::string seen;
   for (const auto& box : boxes_.take()) {
-    if (!seen.empty()) seen += " | ";
-    if (box.title != "ZORBOffice") seen += "[" + box.title + "] ";
-    seen += box.text;
+    seen += seen.empty() ? "" : " | ";
+    seen += box.title == "ZORBOffice" ? box.text : "[" + box.title + "] " + box.text;
     EXPECT_EQ(box.buttons, std::vector<std::string>{"OK"});
   }
   EXPECT_EQ(seen, shown) << utf8(member);
 }
 
 std::string OutlookTest::last_error() {
-  return late_call(control_.Get(), L"GetLastErrorNumber") + " " +
-         late_call(control_.Get(), L"GetLastErrorDescription");
+  return call(L"GetLastErrorNumber") + " " + call(L"GetLastErrorDescription");
+}
+
+std::string OutlookTest::recorded(int number, const std::string& description) {
+  return "i2 " + std::to_string(number) + " bstr \"" + description + "\"";
 }
 
 std::string OutlookTest::held() {
   log();
   for (const auto& kind : item_kinds)
-    for (const auto* member : {L"SaveItem", L"GetItemCount"}) late_call(control_.Get(), member, {kind.word});
+    for (const auto* member : {L"SaveItem", L"GetItemCount"}) call(member, {kind.word});
   std::string names = "|";
   for (const auto& line : std::exchange(outlook_.log, {}))
     names += line.substr(line.find(' ') + 1, line.find('.') - line.find(' ') - 1) + "|";
@@ -80,13 +82,9 @@ std::string OutlookTest::log() {
   return all;
 }
 
-std::string OutlookTest::recorded(int number, const std::string& description) {
-  return "i2 " + std::to_string(number) + " bstr \"" + description + "\"";
-}
-
 _variant_t OutlookTest::text(std::wstring_view text) {
   VARIANT value = {};
   value.vt = VT_BSTR;
-  value.bstrVal = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
+  if (text.data()) value.bstrVal = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
   return {value, false};
 }

@@ -1,0 +1,95 @@
+// NewEmail: a mail from plain parameters, which goes on after each failure.
+#include "outlook_test.h"
+
+namespace {
+
+class NewEmail : public OutlookTest {
+ protected:
+  // Calls NewEmail with those flags and a reference to `attachment`.
+  void compose(bool html, bool send, _variant_t& attachment, const std::string& shown = "") {
+    _variant_t reference;
+    reference.vt = VT_BYREF | VT_BSTR;
+    reference.pbstrVal = &attachment.bstrVal;
+    expect(L"NewEmail", {L"t", L"a;b", L"c", text({}), L"\x20ac", L"<p>", html, send, reference}, "bool 0",
+           shown);
+  }
+  static std::string add(const std::string& path) {
+    return "get Email.Attachments | call Attachments.Add(bstr \"" + path +
+           "\", missing, missing, missing) | ";
+  }
+
+  const std::string made =
+      "create Outlook.Application | get Application.GetNamespace(bstr \"MAPI\")"
+      " | get Application.CreateItem(i4 0) | ";
+  const std::string addressed =
+      " | put Email.Subject=bstr \"\xe2\x82\xac\" | put Email.To=bstr \"a;b\""
+      " | put Email.CC=bstr \"c\" | put Email.BCC=bstr \"\" | ";
+  const std::string filled = made + "put Email.Body=bstr \"<p>\"" + addressed,
+                    shown = "call Email.Display(missing)", sent = "call Email.Send | call Application.Quit";
+};
+
+TEST_F(NewEmail, TakesItsStepsAndUsesTheAttachmentsUp) {
+  const struct {
+    const wchar_t* attachment;
+    std::vector<std::string> paths;
+    std::string left;
+  } rows[] = {{L"", {}, ""},
+              {L" a.txt ", {"a.txt"}, " a.txt "},
+              {L"a.txt; ;b.txt", {"a.txt", "b.txt"}, "b.txt"},
+              {L"a.txt;", {"a.txt"}, ""},
+              {L";;", {}, ""},
+              {L" a ; b ; c ", {" a ", "b ", "c"}, "c"},
+              {L" ;\t", {" ", "\t"}, "\t"},
+              {L"  ", {""}, "  "}};
+  for (const auto& row : rows) {
+    _variant_t attachment = row.attachment;
+    compose(false, false, attachment);
+    std::string steps = filled;
+    for (const auto& path : row.paths) steps += add(path);
+    EXPECT_EQ(log(), steps + shown);
+    EXPECT_EQ(describe(attachment), "bstr \"" + row.left + "\"");
+  }
+  _variant_t none = text({});
+  compose(true, true, none);
+  EXPECT_EQ(log(), made + "put Email.HTMLBody=bstr \"<p>\"" + addressed + sent);
+  EXPECT_EQ(last_error(), recorded(0, ""));
+  EXPECT_EQ(outlook_.live, 0);
+}
+
+TEST_F(NewEmail, GoesOnAfterTheStatementThatFails) {
+  const std::string no_member = "No such member.", no_object = "Object required";
+  const std::map<std::string, int> numbers = {{no_member, 5941}, {no_object, 424}, {not_set, 91}};
+  for (const bool send : {false, true}) {
+    const std::string steps = filled + add("a") + add("b") + (send ? sent : shown);
+    std::vector<std::string> lines;
+    for (size_t from = 0, end = 0; end != steps.npos; from = end + 3)
+      lines.push_back(steps.substr(from, (end = steps.find(" | ", from)) - from));
+    for (size_t failing = 0; failing < lines.size(); ++failing) {
+      SCOPED_TRACE(lines[failing]);
+      make_ready();
+      const std::string usual = held();
+      // A step is lost with the object that it is asked of.
+      std::string left, boxes, last;
+      for (size_t i = 0; i < lines.size(); ++i) {
+        const bool on_application = lines[i].find(" Application.") != lines[i].npos;
+        const bool lost = i > failing && (failing == 0 || (failing == 2 && !on_application) ||
+                                          (i == failing + 1 && lines[i].starts_with("call Attachments")));
+        if (!lost) left += (left.empty() ? "" : " | ") + lines[i];
+        if (i != failing && (!lost || lines[i].starts_with("call Attachments"))) continue;
+        last = !lost ? no_member : on_application ? no_object : not_set;
+        boxes += (boxes.empty() ? "New Email " : " | New Email ") + last;
+      }
+      outlook_.fail_at = failing + 1;
+      _variant_t attachment = L"a;b";
+      compose(false, send, attachment, boxes);
+      EXPECT_EQ(log(), left);
+      EXPECT_EQ(errors_at_boxes_.at(0), unset) << "box first";
+      EXPECT_EQ(last_error(), recorded(numbers.at(last), last));
+      EXPECT_EQ(describe(attachment), "bstr \"b\"");
+      outlook_.fail_at = 0;
+      EXPECT_EQ(held(), usual);
+    }
+  }
+}
+
+}  // namespace

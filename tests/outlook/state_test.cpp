@@ -1,0 +1,194 @@
+// What a control holds between and during calls, and the edges of words, counts, walks and failures.
+#include <algorithm>
+
+#include "outlook_test.h"
+#include "support/text.h"
+
+namespace {
+
+using State = OutlookTest;
+
+const _variant_t nothing(static_cast<IDispatch*>(nullptr));
+
+TEST_F(State, OnlyTheClassTellsKindsApart) {
+  make_ready();
+  const std::string usual = held();
+  for (const auto& kind : item_kinds) {
+    outlook_.answers[std::string(kind.items) + ".GetNext"] = {nothing};
+    for (const int item_class : {26, 40, 43, 44, 48, 69, 46, 53, 181, 45, 41, 0, 65536 + kind.item_class}) {
+      if (item_class == kind.item_class) continue;
+      outlook_.answers[std::string(kind.found) + ".Class"] = {item_class};
+      expect(L"GetFirstItem", {kind.word}, "bool 0");
+      expect(L"GetItem", {kind.word, kind.word}, "bool 0");
+      EXPECT_EQ(last_error(), recorded(13, "Type mismatch"));
+    }
+  }
+  outlook_.answers["NameSpace.GetItemFromID"] = {nothing};
+  expect(L"GetItem", {L"Task", L"gone"}, "bool 0");
+  EXPECT_EQ(last_error(), unset);
+  EXPECT_EQ(held(), usual);
+}
+
+TEST_F(State, UnknownWordsAreShownAndNotRecorded) {
+  const std::map<std::wstring, std::string> captions = {{L"OpenItem", "Open Item"},
+                                                        {L"InitItems", "Init Items"},
+                                                        {L"GetItem", "Get Item"},
+                                                        {L"GetItemCount", "Get Item Count"},
+                                                        {L"GetFirstItem", "Get First Item"},
+                                                        {L"GetNextItem", "Get Next Item"},
+                                                        {L"CreateItem", "Create Item"},
+                                                        {L"DeleteItem", "Delete Item"},
+                                                        {L"SaveItem", "Save Item"},
+                                                        {L"SaveItemToFile", "Save Item to File"}};
+  const std::wstring_view words[] = {
+      {},         L"",           L"appointment",  L"Email ", L"Tas", {L"Email\0", 6}, L"sent items",
+      L"Deleted", L"Sent Items", L"Deleted Email"};
+  const std::wstring long_word(3000, L'x');
+  for (const auto& [member, caption] : captions)
+    for (auto word : words) {
+      if (member == L"InitItems" && (word == L"Sent Items" || word == L"Deleted Email")) word = long_word;
+      Arguments arguments = {text(word)};
+      if (member == L"GetItem" || member == L"InitItems" || member == L"SaveItemToFile")
+        arguments.push_back(L"");
+      // A box ends its text at a null.
+      expect(member.c_str(), arguments, member == L"GetItemCount" ? "i2 0" : "bool 0",
+             "[" + caption + "] Unknown Entry Type " + utf8(word.substr(0, word.find(L'\0'))));
+    }
+  EXPECT_EQ(last_error(), recorded(0, ""));
+  EXPECT_EQ(log(), "");
+}
+
+TEST_F(State, AHundredThousandForeignItemsTakeNeitherStackNorMemory) {
+  make_ready();
+  const int alive = outlook_.live;
+  int skipped = 0;
+  const void* stack = nullptr;
+  auto& next = outlook_.answers["ContactItems.GetNext"];
+  next = {.object = "Foreign", .effect = [&](const DISPPARAMS& on_stack) {
+            if (++skipped == 1) stack = &on_stack;
+            if (stack != &on_stack || outlook_.live > alive + 1 || skipped == 100000)
+              next = {.object = "FoundContact"};
+            outlook_.log.clear();
+          }};
+  outlook_.answers["ContactItems.GetFirst"] = {.object = "Foreign"};
+  expect(L"GetFirstItem", {L"Contact"}, "bool -1");
+  EXPECT_EQ(log(), "get Foreign.Class | get ContactItems.GetNext | get FoundContact.Class");
+  EXPECT_EQ(skipped, 100000);
+}
+
+TEST_F(State, CountsAndTheLastErrorsNumberAreOfSixteenBits) {
+  make_ready();
+  outlook_.answers["EmailItems.Count"] = {32767};
+  expect(L"GetItemCount", {L"Email"}, "i2 32767");
+  EXPECT_EQ(last_error(), unset);
+  outlook_.answers["EmailItems.Count"] = {32768};
+  expect(L"GetItemCount", {L"Email"}, "i2 0");
+  EXPECT_EQ(last_error(), recorded(6, "Overflow"));
+  const std::string overflow = "raised 800A0006 Overflow";
+  const std::pair<Failure, std::string> rows[] = {{{DISP_E_EXCEPTION, 0, 32767, L"a"}, "i2 32767"},
+                                                  {{DISP_E_EXCEPTION, 0, 32768, L"a"}, overflow},
+                                                  {{DISP_E_EXCEPTION, 0xFFFF8000, 0, L"a"}, "i2 -32768"},
+                                                  {{DISP_E_EXCEPTION, 0xFFFF7FFF, 0, L"a"}, overflow},
+                                                  {{DISP_E_EXCEPTION, 0x80020009, 0, L"a"}, overflow}};
+  for (const auto& [failure, number] : rows) {
+    outlook_.failure = failure;
+    log();
+    outlook_.fail_at = 1;
+    expect(L"DeleteItem", {L"Note"}, "bool 0");
+    for (int asked = 0; asked < 2; ++asked) EXPECT_EQ(last_error(), number + " bstr \"a\"");
+  }
+}
+
+TEST_F(State, DatesAreConvertedBeforeAnythingIsAsked) {
+  for (const auto* date : {L"", L"soon", L"32/13/2007"}) {
+    expect(L"GetAppointmentInstance", {date}, "bool 0");
+    EXPECT_EQ(last_error(), recorded(13, "Type mismatch"));
+  }
+}
+
+TEST_F(State, AttachmentsAreCountedWithoutThoseThatTheBodyNames) {
+  const struct {
+    short number;
+    const wchar_t *body, *name;
+    std::string saved;
+  } rows[] = {{1, L"a LOGO.PNG", L"logo.png", "call Logo"},
+              {1, L"xlogo.pngx", L"logo.png", "call Report"},
+              {1, L"text", L"", "call Report"},
+              {1, L"", L"", "call Logo"},
+              {2, L"report.pdf", L"a", "call Figures"},
+              {0, L"", L"a", "next Attachments"},
+              {-1, L"", L"a", "next Attachments"}};
+  make_ready();
+  for (const auto& row : rows) {
+    outlook_.answers["Email.Body"] = {row.body};
+    outlook_.answers["Logo.FileName"] = {row.name};
+    expect(L"SaveEmailAttachment", {row.number, L""}, "bool -1");
+    EXPECT_EQ(outlook_.log.back().substr(0, outlook_.log.back().find('.')), row.saved);
+  }
+  outlook_.answers["Attachments.[newenum]"].items.assign(32768, "Report");
+  expect(L"SaveEmailAttachment", {short{0}, L""}, "bool 0", "Couldn't save Attachment Overflow : 0 : 1");
+  EXPECT_EQ(last_error(), recorded(6, "Overflow"));
+}
+
+TEST_F(State, AFailureWhoseFactsCannotBeReadReachesTheHost) {
+  make_ready();
+  for (const auto* fact : {"Attachments.Item", "Attachment.BlockLevel", "Attachment.Type"}) {
+    outlook_.refused = {{"Figures.SaveAsFile", E_FAIL}, {fact, E_ACCESSDENIED}};
+    expect(L"SaveEmailAttachment", {2, L""}, "raised 800A0046 Permission denied");
+    EXPECT_EQ(last_error(), unset);
+  }
+}
+
+TEST_F(State, AHalfStartedSessionKeepsTheNewApplicationAndTheOldNamespace) {
+  outlook_.fail_at = 2;
+  expect(L"StartOutlook", {}, "bool 0");
+  expect(L"CreateItem", {L"Email"}, "bool -1");
+  expect(L"GetItem", {L"Email", L"Email"}, "bool 0");
+  make_ready();
+  outlook_.answers["Application.GetNamespace"] = {.object = "Second"};
+  for (const auto* space : {"NameSpace", "Second"}) {
+    outlook_.fail_at = *space == 'N' ? 2 : 0;
+    call(L"StartOutlook");
+    call(L"GetItem", {L"Email", L""});
+    EXPECT_EQ(outlook_.log.at(2), "get " + std::string(space) + ".GetItemFromID(bstr \"\")");
+    log();
+  }
+}
+
+TEST_F(State, ControlsShareNothingAndGoOnAfterStopping) {
+  make_ready();
+  const auto first = control_;
+  const std::string usual = held();
+  make_ready();
+  expect(L"GetFirstItem", {L"Task"}, "bool -1");
+  expect(L"GetAppointmentInstance", {L""}, "bool 0");
+  control_ = first;
+  EXPECT_EQ(last_error(), unset);
+  expect(L"GetRecurrencePattern", {}, "bool -1");
+  expect(L"StopOutlook", {true}, "bool -1");
+  EXPECT_EQ(held(), usual);
+  EXPECT_EQ(outlook_.live, 13) << "application, namespace, pattern, a collection and an item of each kind";
+}
+
+TEST_F(State, WhatTheHostDoesDuringACallCounts) {
+  make_ready();
+  outlook_.answers["Notes.Items"] = {.object = "Fresh"};
+  outlook_.answers["Fresh.GetNext"] = {.object = "FoundNote"};
+  outlook_.answers["NoteItems.GetNext"] = {{}, "Foreign", {}, [&](const DISPPARAMS&) {
+                                             call(L"InitItems", {L"Note", L""});
+                                           }};
+  expect(L"GetNextItem", {L"Note"}, "bool -1");
+  EXPECT_TRUE(log().ends_with("get Foreign.Class | get Fresh.GetNext | get FoundNote.Class"));
+  outlook_.answers["FoundNote.Display"].effect = [&](const DISPPARAMS&) {
+    call(L"CreateItem", {L"Note"});
+    control_.Reset();
+  };
+  expect(L"OpenItem", {L"Note"}, "bool -1");
+  EXPECT_EQ(outlook_.live, 0);
+  make_ready();
+  at_box_ = [&] { control_.Reset(); };
+  outlook_.fail_at = 1;
+  expect(L"OpenItem", {L"Task"}, "bool 0", "open item Task No such member.");
+}
+
+}  // namespace
