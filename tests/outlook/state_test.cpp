@@ -40,9 +40,9 @@ TEST_F(State, UnknownWordsAreShownAndNotRecorded) {
                                                         {L"DeleteItem", "Delete Item"},
                                                         {L"SaveItem", "Save Item"},
                                                         {L"SaveItemToFile", "Save Item to File"}};
-  const std::wstring_view words[] = {
-      {},         L"",           L"appointment",  L"Email ", L"Tas", {L"Email\0", 6}, L"sent items",
-      L"Deleted", L"Sent Items", L"Deleted Email"};
+  const std::wstring_view words[] = {{},         L"",           L"appointment",
+                                     L"Email ",  L"Tas",        {L"Email\0", 6},
+                                     L"Deleted", L"Sent Items", L"Deleted Email"};
   const std::wstring long_word(3000, L'x');
   for (const auto& [member, caption] : captions)
     for (auto word : words) {
@@ -174,7 +174,8 @@ TEST_F(State, WhatTheHostDoesDuringACallCounts) {
   make_ready();
   outlook_.answers["Notes.Items"] = {.object = "Fresh"};
   outlook_.answers["Fresh.GetNext"] = {.object = "FoundNote"};
-  outlook_.answers["NoteItems.GetNext"] = {{}, "Foreign", {}, [&](const DISPPARAMS&) {
+  outlook_.answers["NoteItems.GetNext"] = {.object = "Foreign", .effect = [&](const DISPPARAMS&) {
+                                             outlook_.answers["NoteItems.GetNext"] = {nothing};
                                              call(L"InitItems", {L"Note", L""});
                                            }};
   expect(L"GetNextItem", {L"Note"}, "bool -1");
