@@ -30,8 +30,19 @@ STDAPI DllGetClassObject(REFCLSID class_id, REFIID id, LPVOID* factory) {
 STDAPI DllCanUnloadNow() { return can_unload_module() ? S_OK : S_FALSE; }
 
 // Registers the classes and the type library for the machine. Returns the failure of the first entry that
-// could not be written; nothing of the library is registered then.
-STDAPI DllRegisterServer() { return register_library(); }
+// could not be written; the registry is as it was then.
+STDAPI DllRegisterServer() { return register_library(Scope::machine); }
 
-// Removes everything that registration wrote.
-STDAPI DllUnregisterServer() { return unregister_library(); }
+// Removes everything that DllRegisterServer wrote.
+STDAPI DllUnregisterServer() { return unregister_library(Scope::machine); }
+
+// Does either of the two for what regsvr32's /i names: "user" in any case is the current user only; nothing
+// is the machine. Returns E_INVALIDARG for any other text.
+STDAPI DllInstall(BOOL install, LPCWSTR command_line) {
+  Scope scope = Scope::machine;
+  if (command_line && *command_line) {
+    if (CompareStringOrdinal(command_line, -1, L"user", -1, TRUE) != CSTR_EQUAL) return E_INVALIDARG;
+    scope = Scope::user;
+  }
+  return install ? register_library(scope) : unregister_library(scope);
+}

@@ -1,9 +1,7 @@
 #include "ZORBOffice/registration.h"
 
-#include <olectl.h>
-
-#include <algorithm>
 #include <initializer_list>
+#include <span>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -12,6 +10,8 @@
 #include "ZORBOffice/class_table.h"
 #include "ZORBOffice/common/bstr.h"
 #include "ZORBOffice/module.h"
+#include "ZORBOffice/registration_values.h"
+#include "ZORBOffice/registry.h"
 
 namespace zorboffice {
 namespace {
@@ -24,56 +24,54 @@ struct Row {
   const wchar_t* data;
 };
 
-constexpr Row library_rows[] = {
-    {L"TypeLib\\%library id%\\1.0", nullptr, L"ZORBOffice50"},
-    {L"TypeLib\\%library id%\\1.0\\FLAGS", nullptr, L"2"},  // LIBFLAG_FCONTROL
-    {L"TypeLib\\%library id%\\1.0\\HELPDIR", nullptr, L"%folder%"},
-    {L"TypeLib\\%library id%\\1.0\\409\\%platform%", nullptr, L"%module%"},
-    // Hosts that look for the neutral language only, as cross-apartment marshalling does, find it here.
-    {L"TypeLib\\%library id%\\1.0\\0\\%platform%", nullptr, L"%module%"},
+// On 64-bit Windows each bitness has identifiers of classes and interfaces of its own. Type libraries and
+// program identifiers exist once: there the entries are shared, all but the paths of the two files.
+constexpr Row shared_library_rows[] = {
+    {L"TypeLib\\%library id%\\%version%", nullptr, L"%library name%"},
+    {L"TypeLib\\%library id%\\%version%\\FLAGS", nullptr, L"%library flags%"},
+    {L"TypeLib\\%library id%\\%version%\\HELPDIR", nullptr, L"%folder%"},
 };
 
-// 131473: OLEMISC_RECOMPOSEONRESIZE | CANTLINKINSIDE | INSIDEOUT | ACTIVATEWHENVISIBLE | SETCLIENTSITEFIRST.
+constexpr Row library_file_rows[] = {
+    {L"TypeLib\\%library id%\\%version%\\409\\%platform%", nullptr, L"%module%"},
+    // Hosts that look for the neutral language only, as cross-apartment marshalling does, find it here.
+    {L"TypeLib\\%library id%\\%version%\\0\\%platform%", nullptr, L"%module%"},
+};
+
 constexpr Row class_rows[] = {
-    {L"CLSID\\%class id%", nullptr, L"ZORBOffice.%class%"},
+    {L"CLSID\\%class id%", nullptr, L"%program id%"},
     {L"CLSID\\%class id%\\InprocServer32", nullptr, L"%module%"},
-    {L"CLSID\\%class id%\\InprocServer32", L"ThreadingModel", L"Apartment"},
+    {L"CLSID\\%class id%\\InprocServer32", L"ThreadingModel", threading_model},
     {L"CLSID\\%class id%\\Control", nullptr, nullptr},
     {L"CLSID\\%class id%\\Implemented Categories\\%control category%", nullptr, nullptr},
     {L"CLSID\\%class id%\\MiscStatus", nullptr, L"0"},
-    {L"CLSID\\%class id%\\MiscStatus\\1", nullptr, L"131473"},
+    {L"CLSID\\%class id%\\MiscStatus\\1", nullptr, L"%misc status%"},  // DVASPECT_CONTENT
     {L"CLSID\\%class id%\\ToolboxBitmap32", nullptr, L"%module%, %bitmap%"},
     {L"CLSID\\%class id%\\TypeLib", nullptr, L"%library id%"},
-    {L"CLSID\\%class id%\\Version", nullptr, L"1.0"},
-    {L"CLSID\\%class id%\\ProgID", nullptr, L"ZORBOffice.%class%.1"},
-    {L"CLSID\\%class id%\\VersionIndependentProgID", nullptr, L"ZORBOffice.%class%"},
-    {L"ZORBOffice.%class%", nullptr, L"ZORBOffice.%class%"},
-    {L"ZORBOffice.%class%\\CLSID", nullptr, L"%class id%"},
-    {L"ZORBOffice.%class%\\CurVer", nullptr, L"ZORBOffice.%class%.1"},
-    {L"ZORBOffice.%class%.1", nullptr, L"ZORBOffice.%class%"},
-    {L"ZORBOffice.%class%.1\\CLSID", nullptr, L"%class id%"},
+    {L"CLSID\\%class id%\\Version", nullptr, L"%version%"},
+    {L"CLSID\\%class id%\\ProgID", nullptr, L"%versioned program id%"},
+    {L"CLSID\\%class id%\\VersionIndependentProgID", nullptr, L"%program id%"},
+};
+
+constexpr Row shared_class_rows[] = {
+    {L"%program id%", nullptr, L"%program id%"},
+    {L"%program id%\\CLSID", nullptr, L"%class id%"},
+    {L"%program id%\\CurVer", nullptr, L"%versioned program id%"},
+    {L"%versioned program id%", nullptr, L"%program id%"},
+    {L"%versioned program id%\\CLSID", nullptr, L"%class id%"},
 };
 
 constexpr Row interface_rows[] = {
     {L"Interface\\%interface id%", nullptr, L"%interface%"},
     {L"Interface\\%interface id%\\ProxyStubClsid32", nullptr, L"%marshaller%"},
     {L"Interface\\%interface id%\\TypeLib", nullptr, L"%library id%"},
-    {L"Interface\\%interface id%\\TypeLib", L"Version", L"1.0"},
+    {L"Interface\\%interface id%\\TypeLib", L"Version", L"%version%"},
 };
 
-constexpr wchar_t control_category[] = L"{40FC6ED4-2438-11CF-A3DB-080036F12502}";     // CATID_Control
-constexpr wchar_t dual_marshaller[] = L"{00020424-0000-0000-C000-000000000046}";      // PSOAInterface
-constexpr wchar_t dispatch_marshaller[] = L"{00020420-0000-0000-C000-000000000046}";  // PSDispatch
-constexpr wchar_t classes_root[] = L"Software\\Classes\\";
-constexpr const wchar_t* platform = sizeof(void*) == 8 ? L"win64" : L"win32";
-
-struct Entry {
-  std::wstring key;
-  const wchar_t* value;
-  bool has_data;
-  std::wstring data;
-  bool key_is_foreign = false;  // it was there before registration
-};
+constexpr wchar_t control_category[] = L"{40FC6ED4-2438-11CF-A3DB-080036F12502}";  // CATID_Control
+constexpr bool is_64_bit = sizeof(void*) == 8;
+constexpr const wchar_t* platform = is_64_bit ? L"win64" : L"win32";
+constexpr const wchar_t* other_platform = is_64_bit ? L"win32" : L"win64";
 
 using Word = std::pair<std::wstring_view, std::wstring>;
 using Words = std::vector<Word>;
@@ -83,6 +81,8 @@ std::wstring text_of(REFGUID id) {
   StringFromGUID2(id, buffer, ARRAYSIZE(buffer));
   return buffer;
 }
+
+std::wstring text_of(LONG number) { return std::wstring(decimal(number).view()); }
 
 std::wstring with_words(const wchar_t* pattern, const Words& words) {
   std::wstring text(pattern);
@@ -94,38 +94,62 @@ std::wstring with_words(const wchar_t* pattern, const Words& words) {
   return text;
 }
 
-void append(std::vector<Entry>& entries, std::span<const Row> rows, const Words& words) {
+std::wstring key_name(const wchar_t* pattern, const Words& words) {
+  return std::wstring(classes_root) + L"\\" + with_words(pattern, words);
+}
+
+enum class Sharing { own, with_other_bitness };
+
+struct Entry : RegistryEntry {
+  Sharing sharing;
+};
+
+void append(std::vector<Entry>& entries, std::span<const Row> rows, Sharing sharing, const Words& words) {
   for (const Row& row : rows) {
-    entries.push_back({classes_root + with_words(row.key, words), row.value, row.data != nullptr,
-                       with_words(row.data ? row.data : L"", words), false});
+    Entry entry = {{key_name(row.key, words), row.value, {}}, sharing};
+    if (row.data) entry.data = with_words(row.data, words);
+    entries.push_back(std::move(entry));
   }
+}
+
+Words common_words() {
+  const std::wstring path = module_path();
+  return {{L"%library id%", text_of(library_id)},
+          {L"%library name%", type_library_name},
+          {L"%library flags%", text_of(type_library_flags)},
+          {L"%version%", text_of(type_library_major) + L"." + text_of(type_library_minor)},
+          {L"%module%", path},
+          {L"%folder%", path.substr(0, path.find_last_of(L'\\'))},
+          {L"%platform%", platform},
+          {L"%other platform%", other_platform},
+          {L"%misc status%", text_of(static_cast<LONG>(misc_status))},
+          {L"%control category%", control_category}};
 }
 
 // The one list that registers and unregisters.
 std::vector<Entry> entries() {
-  const std::wstring path = module_path();
-  const Words common = {{L"%library id%", text_of(library_id)},
-                        {L"%module%", path},
-                        {L"%folder%", path.substr(0, path.find_last_of(L'\\'))},
-                        {L"%platform%", platform},
-                        {L"%control category%", control_category}};
+  const Words common = common_words();
   const auto with = [&](std::initializer_list<Word> own) {
     Words words(own);
     words.insert(words.end(), common.begin(), common.end());
     return words;
   };
   std::vector<Entry> list;
-  append(list, library_rows, common);
+  append(list, shared_library_rows, Sharing::with_other_bitness, common);
+  append(list, library_file_rows, Sharing::own, common);
   for (const ClassRow& row : class_table()) {
-    append(list, class_rows,
-           with({{L"%class id%", text_of(row.published.class_id)},
-                 {L"%class%", row.published.name},
-                 {L"%bitmap%", std::wstring(decimal(row.toolbox_bitmap).view())}}));
-    append(list, interface_rows,
+    const std::wstring program_id = std::wstring(program_id_prefix) + row.published.name;
+    const Words words = with({{L"%class id%", text_of(row.published.class_id)},
+                              {L"%program id%", program_id},
+                              {L"%versioned program id%", program_id + program_id_version},
+                              {L"%bitmap%", text_of(row.toolbox_bitmap)}});
+    append(list, class_rows, Sharing::own, words);
+    append(list, shared_class_rows, Sharing::with_other_bitness, words);
+    append(list, interface_rows, Sharing::own,
            with({{L"%interface id%", text_of(row.default_interface.id)},
                  {L"%interface%", row.published.default_interface},
                  {L"%marshaller%", dual_marshaller}}));
-    append(list, interface_rows,
+    append(list, interface_rows, Sharing::own,
            with({{L"%interface id%", text_of(row.event_interface_id)},
                  {L"%interface%", row.published.event_interface},
                  {L"%marshaller%", dispatch_marshaller}}));
@@ -133,72 +157,37 @@ std::vector<Entry> entries() {
   return list;
 }
 
-LONG write(Entry& entry) {
-  HKEY key;
-  DWORD disposition;
-  LONG status = RegCreateKeyExW(HKEY_LOCAL_MACHINE, entry.key.c_str(), 0, nullptr, 0, KEY_WRITE, nullptr,
-                                &key, &disposition);
-  if (status != ERROR_SUCCESS) return status;
-  entry.key_is_foreign = disposition == REG_OPENED_EXISTING_KEY;
-  if (entry.has_data) {
-    status = RegSetValueExW(key, entry.value, 0, REG_SZ, reinterpret_cast<const BYTE*>(entry.data.c_str()),
-                            static_cast<DWORD>(entry.data.size() + 1) * static_cast<DWORD>(sizeof(wchar_t)));
+// The path of the other bitness's file stands among the shared entries, where both see it.
+bool other_bitness_is_registered(HKEY root) {
+  constexpr wchar_t key[] = L"TypeLib\\%library id%\\%version%\\0\\%other platform%";
+  return has_key(root, key_name(key, common_words()));
+}
+
+HKEY root_of(Scope scope) { return scope == Scope::user ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE; }
+
+LONG write_all(HKEY root, std::span<const Entry> list) {
+  std::vector<StandingEntry> standing(list.size());
+  for (std::size_t i = 0; i < list.size(); ++i) {
+    if (const LONG status = read_standing(root, list[i], standing[i]); status != ERROR_SUCCESS) return status;
   }
-  RegCloseKey(key);
-  return status;
-}
-
-bool is_absent(LONG status) { return status == ERROR_FILE_NOT_FOUND || status == ERROR_PATH_NOT_FOUND; }
-
-LONG remove_value(const Entry& entry) {
-  HKEY key;
-  LONG status = RegOpenKeyExW(HKEY_LOCAL_MACHINE, entry.key.c_str(), 0, KEY_WRITE, &key);
-  if (status != ERROR_SUCCESS) return status;
-  status = RegDeleteValueW(key, entry.value);
-  RegCloseKey(key);
-  return status;
-}
-
-bool is_empty(HKEY key) {
-  DWORD keys = 1;
-  DWORD values = 1;
-  RegQueryInfoKeyW(key, nullptr, nullptr, nullptr, &keys, nullptr, nullptr, &values, nullptr, nullptr,
-                   nullptr, nullptr);
-  return keys == 0 && values == 0;
-}
-
-// Removes the key and its parents up to the classes' root, as far as nothing is left in them.
-LONG remove_empty_keys(std::wstring name) {
-  for (; name.size() >= ARRAYSIZE(classes_root); name.resize(name.find_last_of(L'\\'))) {
-    HKEY key;
-    LONG status = RegOpenKeyExW(HKEY_LOCAL_MACHINE, name.c_str(), 0, KEY_READ, &key);
-    if (is_absent(status)) continue;
-    if (status != ERROR_SUCCESS) return status;
-    const bool empty = is_empty(key);
-    RegCloseKey(key);
-    if (!empty) break;
-    status = RegDeleteKeyW(HKEY_LOCAL_MACHINE, name.c_str());
-    if (status != ERROR_SUCCESS) return status;
+  for (std::size_t i = 0; i < list.size(); ++i) {
+    if (const LONG status = write_entry(root, list[i]); status != ERROR_SUCCESS) {
+      for (std::size_t written = i + 1; written-- > 0;) {
+        restore_standing(root, list[written], standing[written]);
+      }
+      return status;
+    }
   }
   return ERROR_SUCCESS;
 }
 
-bool is_written(const Entry& entry) {
-  return entry.has_data && RegGetValueW(HKEY_LOCAL_MACHINE, entry.key.c_str(), entry.value, RRF_RT_REG_SZ,
-                                        nullptr, nullptr, nullptr) == ERROR_SUCCESS;
-}
-
-LONG remove(const Entry& entry) {
-  const LONG status = entry.has_data ? remove_value(entry) : ERROR_SUCCESS;
-  if (status != ERROR_SUCCESS && !is_absent(status)) return status;
-  return entry.key_is_foreign ? ERROR_SUCCESS : remove_empty_keys(entry.key);
-}
-
 // Goes on after a failure, and returns the first one.
-LONG remove(std::span<const Entry> list) {
+LONG remove_all(HKEY root, std::span<const Entry> list) {
+  const bool keeps_shared = other_bitness_is_registered(root);
   LONG first_failure = ERROR_SUCCESS;
   for (std::size_t i = list.size(); i-- > 0;) {
-    const LONG status = remove(list[i]);
+    if (keeps_shared && list[i].sharing == Sharing::with_other_bitness) continue;
+    const LONG status = remove_entry(root, list[i]);
     if (first_failure == ERROR_SUCCESS) first_failure = status;
   }
   return first_failure;
@@ -206,26 +195,19 @@ LONG remove(std::span<const Entry> list) {
 
 }  // namespace
 
-HRESULT register_library() noexcept {
+HRESULT register_library(Scope scope) noexcept {
   try {
-    std::vector<Entry> list = entries();
-    // An earlier registration goes first, so that a failure half-way leaves nothing of it either.
-    if (std::ranges::any_of(list, is_written)) remove(list);
-    for (std::size_t i = 0; i < list.size(); ++i) {
-      if (const LONG status = write(list[i]); status != ERROR_SUCCESS) {
-        remove(std::span<const Entry>(list).first(i + 1));
-        return HRESULT_FROM_WIN32(status);
-      }
-    }
-    return S_OK;
+    const LONG status = write_all(root_of(scope), entries());
+    return HRESULT_FROM_WIN32(status);
   } catch (...) {
     return E_OUTOFMEMORY;
   }
 }
 
-HRESULT unregister_library() noexcept {
+HRESULT unregister_library(Scope scope) noexcept {
   try {
-    return HRESULT_FROM_WIN32(remove(entries()));
+    const LONG status = remove_all(root_of(scope), entries());
+    return HRESULT_FROM_WIN32(status);
   } catch (...) {
     return E_OUTOFMEMORY;
   }

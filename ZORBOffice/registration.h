@@ -5,11 +5,17 @@
 
 namespace zorboffice {
 
-// Writes all entries of the three classes and the type library below the machine's classes. On failure
-// removes what it wrote and returns the failure.
-HRESULT register_library() noexcept;
+enum class Scope {
+  machine,  // needs an administrator
+  user      // the current user's classes only
+};
 
-// Removes the same entries; one that is not there is no failure. Keys that hold anything else are kept.
-HRESULT unregister_library() noexcept;
+// Writes all entries of the three classes and the type library below the scope's classes. On failure puts
+// everything back as it was and returns the failure.
+HRESULT register_library(Scope scope) noexcept;
+
+// Removes the same entries; one that is not there is no failure. Keys that hold anything else are kept, and
+// so are the entries that the library of the other bitness needs too, while that is registered.
+HRESULT unregister_library(Scope scope) noexcept;
 
 }  // namespace zorboffice

@@ -1,56 +1,12 @@
-// What registration writes into the machine's classes, key by key, and that nothing of it stays.
-#include <algorithm>
-#include <set>
-#include <vector>
+// What registration writes into the machine's classes or the user's, key by key, and that nothing of it
+// stays.
+#include <comcat.h>
+#include <sddl.h>
 
-#include "library.h"
+#include "registry.h"
 
 namespace outside {
 namespace {
-
-using Keys = std::set<std::wstring>;
-const std::wstring root = L"Software\\Classes";
-
-// A key below `parent` and all below it, each with its values behind it: "path name=value name=value".
-void dump(HKEY parent, const wchar_t* own_name, const std::wstring& path, Keys* keys) {
-  HKEY key = nullptr;
-  ASSERT_EQ(RegOpenKeyExW(parent, own_name, 0, KEY_READ, &key), ERROR_SUCCESS) << path;
-  ASSERT_TRUE(path.size() < 2'000 && keys->size() < 500'000) << path;
-  wchar_t name[512], data[4096] = {};
-  Keys values;
-  for (DWORD i = 0; i < 10'000; ++i) {
-    DWORD length = 512, size = sizeof data, type = 0;
-    const auto bytes = reinterpret_cast<BYTE*>(data);
-    if (RegEnumValueW(key, i, name, &length, nullptr, &type, bytes, &size) == ERROR_NO_MORE_ITEMS) break;
-    const std::wstring kind = type == REG_SZ ? L"=" : L"=type " + std::to_wstring(type) + L" ";
-    const size_t count = std::min<size_t>(size, sizeof data) / sizeof(wchar_t);
-    values.insert(L" " + (name + kind) + std::wstring(data, count - (count && type == REG_SZ)));
-  }
-  std::wstring row = path;
-  for (const auto& value : values) row += value;
-  keys->insert(row);
-  for (DWORD i = 0; RegEnumKeyW(key, i, name, 512) == ERROR_SUCCESS; ++i) {
-    // The 32-bit view of shared keys shows the same rows again.
-    if (!wcscmp(name, L"Wow6432Node")) continue;
-    dump(key, name, path + L"\\" + (wcscmp(name, L"Typelib") ? name : L"TypeLib"), keys);  // older spelling
-  }
-  RegCloseKey(key);
-}
-
-Keys registry() {
-  Keys keys;
-  dump(HKEY_LOCAL_MACHINE, root.c_str(), L"", &keys);
-  return keys;
-}
-
-std::wstring difference(const Keys& before, const Keys& after) {
-  std::wstring text;
-  std::vector<std::wstring> changed;
-  std::set_symmetric_difference(before.begin(), before.end(), after.begin(), after.end(),
-                                std::back_inserter(changed));
-  for (const auto& key : changed) text += (after.contains(key) ? L"+ " : L"- ") + key + L"\n";
-  return text;
-}
 
 // %n is the class's name, %c %i %e its identifiers, %b its bitmap; %l is the library, %p its file,
 // %f its folder.
@@ -98,32 +54,152 @@ std::wstring filled(std::wstring row, const ClassIds& ids) {
   return row;
 }
 
-TEST(Registration, writes_exactly_its_own_keys_and_takes_them_back) {
-  ASSERT_EQ(call("DllUnregisterServer"), S_OK) << "with nothing registered, or a leftover";
-  const Keys before = registry();
-  Keys registered = before;
+// What is there once the library is registered among classes of which `before` was there.
+Keys registered(HKEY among, const Keys& before) {
+  Keys keys = before;
+  const std::wstring above = among == HKEY_CURRENT_USER ? L"\\" + root : L"";
+  if (!above.empty()) keys.insert({above, above + L"\\CLSID", above + L"\\Interface", above + L"\\TypeLib"});
   for (const ClassIds& ids : classes)
-    for (const auto key : class_keys) registered.insert(filled(key, ids));
-  for (const char* step : {"Register", "Register", "Unregister", "Unregister"}) {
-    EXPECT_EQ(call(("Dll" + std::string(step) + "Server").c_str()), S_OK) << step;
-    EXPECT_EQ(difference(*step == 'R' ? registered : before, registry()), L"") << step;
-  }
+    for (const auto key : class_keys) keys.insert(above + filled(key, ids));
+  return keys;
 }
 
-TEST(Registration, that_fails_half_way_says_so_and_leaves_nothing) {
-  const Keys before = registry();
-  for (const auto place : {L"\\CLSID\\%c", L"\\TypeLib\\%l", L"\\Interface\\%e", L"\\ZORBOffice.%n"}) {
-    // Below a volatile key no lasting one can be made.
-    const std::wstring path = root + filled(place, classes[2]);
-    HKEY obstacle = nullptr;
-    ASSERT_EQ(RegCreateKeyExW(HKEY_LOCAL_MACHINE, path.c_str(), 0, nullptr, REG_OPTION_VOLATILE,
-                              KEY_ALL_ACCESS, nullptr, &obstacle, nullptr),
-              ERROR_SUCCESS);
-    RegCloseKey(obstacle);
-    EXPECT_EQ(call("DllRegisterServer"), HRESULT_FROM_WIN32(ERROR_CHILD_MUST_BE_VOLATILE)) << path;
-    RegDeleteKeyW(HKEY_LOCAL_MACHINE, path.c_str());
-    EXPECT_EQ(difference(before, registry()), L"") << path;
+TEST(Registration, writes_exactly_its_own_keys_and_takes_them_back) {
+  struct Step {
+    const wchar_t* options;
+    bool for_machine, for_user;  // what is registered afterwards
+  };
+  unregister_all();
+  const Keys machine = registry(), user = registry(HKEY_CURRENT_USER);
+  for (const Step& step : {Step{L"", true, false},
+                           {L"/n /i:user", true, true},
+                           {L"/u", false, true},
+                           {L"/i", true, true},
+                           {L"/u /n /i:USER", true, false},
+                           {L"/u /n /i", false, false},
+                           {L"/n /i:User", false, true},
+                           {L"/u /n /i:user", false, false}}) {
+    EXPECT_EQ(regsvr32(step.options), 0u);
+    EXPECT_EQ(difference(step.for_machine ? registered(HKEY_LOCAL_MACHINE, machine) : machine, registry()),
+              L"")
+        << step.options;
+    EXPECT_EQ(
+        difference(step.for_user ? registered(HKEY_CURRENT_USER, user) : user, registry(HKEY_CURRENT_USER)),
+        L"")
+        << step.options;
   }
+  for (const LPCWSTR unknown : {L"users", L"use", L" user", L"machine"})
+    for (const BOOL install : {TRUE, FALSE})
+      EXPECT_EQ(call("DllInstall", install, unknown), E_INVALIDARG) << unknown;
+  EXPECT_EQ(difference(machine, registry()), L"");
+  EXPECT_EQ(difference(user, registry(HKEY_CURRENT_USER)), L"");
+}
+
+// A key that may only be read, as all of the machine's are for everybody but administrators.
+class ReadOnlyKey {
+ public:
+  explicit ReadOnlyKey(const std::wstring& path) : path_(path) {
+    RegCreateKeyExW(HKEY_LOCAL_MACHINE, path.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key_, &made_);
+    allow(L"D:P(A;;KR;;;WD)");
+  }
+  ~ReadOnlyKey() {
+    allow(L"D:P(A;;KA;;;WD)");
+    RegCloseKey(key_);
+    if (made_ == REG_CREATED_NEW_KEY) RegDeleteKeyW(HKEY_LOCAL_MACHINE, path_.c_str());
+  }
+
+ private:
+  void allow(const wchar_t* everyone) {
+    PSECURITY_DESCRIPTOR descriptor = nullptr;
+    ConvertStringSecurityDescriptorToSecurityDescriptorW(everyone, SDDL_REVISION_1, &descriptor, nullptr);
+    RegSetKeySecurity(key_, DACL_SECURITY_INFORMATION, descriptor);
+    LocalFree(descriptor);
+  }
+  const std::wstring path_;
+  HKEY key_ = nullptr;
+  DWORD made_ = 0;
+};
+
+TEST(Registration, that_fails_half_way_says_so_and_puts_everything_back) {
+  unregister_all();
+  const Keys unregistered = registry();
+  const auto expect_failure = [](std::initializer_list<const wchar_t*> places) {
+    const Keys before = registry();
+    for (const auto place : places) {
+      const auto path = root + filled(place, classes[2]);
+      {
+        const ReadOnlyKey obstacle(path);
+        EXPECT_EQ(call("DllRegisterServer"), E_ACCESSDENIED) << path;
+      }
+      EXPECT_EQ(difference(before, registry()), L"") << path;
+    }
+  };
+  expect_failure({L"\\CLSID\\%c", L"\\Interface\\%e", L"\\ZORBOffice.%n"});
+  // Over an earlier registration, of which somebody else has written one value.
+  const std::wstring older = library_path() + L".older.ocx";
+  ASSERT_TRUE(CopyFileW(library_path().c_str(), older.c_str(), FALSE));
+  ASSERT_EQ(regsvr32(L"", older), 0u);
+  RegSetKeyValueW(HKEY_LOCAL_MACHINE, (root + filled(L"\\TypeLib\\%l\\1.0\\HELPDIR", classes[0])).c_str(),
+                  nullptr, REG_EXPAND_SZ, L"%windir%", 18);
+  expect_failure({L"\\TypeLib\\%l\\1.0", L"\\Interface\\%e"});
+  EXPECT_EQ(call("DllRegisterServer"), S_OK);
+  EXPECT_EQ(difference(registered(HKEY_LOCAL_MACHINE, unregistered), registry()), L"");
+  unregister_all();
+  EXPECT_EQ(difference(unregistered, registry()), L"");
+  DeleteFileW(older.c_str());
+}
+
+// The exact keys above hold no Insertable or Programmable either.
+TEST(Registration, calls_the_classes_controls_and_neither_safe_nor_insertable) {
+  constexpr const wchar_t* safe_for_scripting = L"{7DD95801-9882-11CF-9FA9-00AA006C42C4}";
+  constexpr const wchar_t* safe_for_initialising = L"{7DD95802-9882-11CF-9FA9-00AA006C42C4}";
+  constexpr const wchar_t* insertable = L"{40FC6ED3-2438-11CF-A3DB-080036F12502}";
+  constexpr const wchar_t* control = L"{40FC6ED4-2438-11CF-A3DB-080036F12502}";
+  ComPtr<ICatInformation> categories;
+  ASSERT_EQ(call("DllRegisterServer"), S_OK);
+  ASSERT_EQ(CoCreateInstance(CLSID_StdComponentCategoriesMgr, nullptr, CLSCTX_INPROC_SERVER,
+                             IID_ICatInformation, &categories),
+            S_OK);
+  for (const ClassIds& ids : classes) {
+    for (const auto category : {control, safe_for_scripting, safe_for_initialising, insertable}) {
+      CATID id = guid(category);
+      EXPECT_EQ(categories->IsClassOfCategories(guid(ids.class_id), 1, &id, 0, nullptr),
+                category == control ? S_OK : S_FALSE)
+          << ids.name << category;
+    }
+  }
+  EXPECT_EQ(call("DllUnregisterServer"), S_OK);
+}
+
+std::wstring text(HKEY among, const std::wstring& key) {
+  wchar_t data[MAX_PATH] = {};
+  DWORD size = sizeof data;
+  RegGetValueW(among, (root + L"\\" + key).c_str(), nullptr, RRF_RT_REG_SZ, nullptr, data, &size);
+  return data;
+}
+
+// The way of the platform itself, which under Wine does not look among the user's classes.
+TEST(Registration, for_the_user_leads_a_host_from_the_name_to_an_instance) {
+  unregister_all();
+  ASSERT_EQ(regsvr32(L"/n /i:user"), 0u);
+  for (const ClassIds& ids : classes) {
+    const std::wstring id = text(HKEY_CURRENT_USER, L"ZORBOffice." + std::wstring(ids.name) + L"\\CLSID");
+    const HMODULE server =
+        LoadLibraryW(text(HKEY_CURRENT_USER, L"CLSID\\" + id + L"\\InprocServer32").c_str());
+    const auto address = reinterpret_cast<void*>(GetProcAddress(server, "DllGetClassObject"));
+    ASSERT_TRUE(address) << ids.name;
+    ComPtr<IClassFactory> made;
+    ComPtr<IDispatch> instance;
+    ASSERT_EQ(reinterpret_cast<LPFNGETCLASSOBJECT>(address)(guid(id.c_str()), IID_IClassFactory, &made),
+              S_OK);
+    EXPECT_EQ(made->CreateInstance(nullptr, guid(ids.interface_id), &instance), S_OK);
+    ComPtr<ITypeLib> types;
+    const auto library = text(HKEY_CURRENT_USER, L"CLSID\\" + id + L"\\TypeLib");
+    const auto file = text(HKEY_CURRENT_USER, filled(L"TypeLib\\" + library + L"\\1.0\\409\\%w", ids));
+    EXPECT_EQ(LoadTypeLibEx(file.c_str(), REGKIND_NONE, &types), S_OK) << file;
+    FreeLibrary(server);
+  }
+  unregister_all();
 }
 
 }  // namespace

@@ -1,0 +1,85 @@
+// The registry as text, and the program that registers.
+#pragma once
+
+#include <algorithm>
+#include <set>
+#include <vector>
+
+#include "library.h"
+
+namespace outside {
+
+using Keys = std::set<std::wstring>;
+inline const std::wstring root = L"Software\\Classes";
+enum class View { own, both_bitnesses };
+
+// A key below `parent` and all below it, each with its values behind it: "path name=value name=value".
+inline void dump(HKEY parent, const wchar_t* own_name, const std::wstring& path, View view, Keys* keys) {
+  HKEY key = nullptr;
+  ASSERT_EQ(RegOpenKeyExW(parent, own_name, 0, KEY_READ, &key), ERROR_SUCCESS) << path;
+  ASSERT_TRUE(path.size() < 2'000 && keys->size() < 500'000) << path;
+  wchar_t name[512], data[4096] = {};
+  Keys values;
+  for (DWORD i = 0; i < 10'000; ++i) {
+    DWORD length = 512, size = sizeof data, type = 0;
+    const auto bytes = reinterpret_cast<BYTE*>(data);
+    if (RegEnumValueW(key, i, name, &length, nullptr, &type, bytes, &size) == ERROR_NO_MORE_ITEMS) break;
+    const std::wstring kind = type == REG_SZ ? L"=" : L"=type " + std::to_wstring(type) + L" ";
+    const size_t count = std::min<size_t>(size, sizeof data) / sizeof(wchar_t);
+    values.insert(L" " + (name + kind) + std::wstring(data, count - (count && type == REG_SZ)));
+  }
+  std::wstring row = path;
+  for (const auto& value : values) row += value;
+  keys->insert(row);
+  for (DWORD i = 0; RegEnumKeyW(key, i, name, 512) == ERROR_SUCCESS; ++i) {
+    // The 32-bit view of shared keys shows the same rows again.
+    if (view == View::own && !wcscmp(name, L"Wow6432Node")) continue;
+    // Some have the older spelling.
+    dump(key, name, path + L"\\" + (wcscmp(name, L"Typelib") ? name : L"TypeLib"), view, keys);
+  }
+  RegCloseKey(key);
+}
+
+// The machine's classes, or all that is the user's.
+inline Keys registry(HKEY of = HKEY_LOCAL_MACHINE, View view = View::own) {
+  Keys keys;
+  dump(of, of == HKEY_CURRENT_USER ? L"" : root.c_str(), L"", view, &keys);
+  return keys;
+}
+
+inline std::wstring difference(const Keys& before, const Keys& after) {
+  std::wstring text;
+  std::vector<std::wstring> changed;
+  std::set_symmetric_difference(before.begin(), before.end(), after.begin(), after.end(),
+                                std::back_inserter(changed));
+  for (const auto& key : changed) text += (after.contains(key) ? L"+ " : L"- ") + key + L"\n";
+  return text;
+}
+
+// Runs a program to its end and returns its exit code.
+inline DWORD run(std::wstring command) {
+  STARTUPINFOW startup = {};
+  startup.cb = sizeof startup;
+  PROCESS_INFORMATION process;
+  require(CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
+                         &process),
+          "process");
+  DWORD code = STILL_ACTIVE;
+  if (WaitForSingleObject(process.hProcess, 30'000) == WAIT_OBJECT_0)
+    GetExitCodeProcess(process.hProcess, &code);
+  CloseHandle(process.hThread);
+  CloseHandle(process.hProcess);
+  return code;
+}
+
+inline DWORD regsvr32(const std::wstring& options, const std::wstring& path = library_path()) {
+  return run(L"regsvr32 /s " + options + L" \"" + path + L"\"");
+}
+
+// So that a test starts with nothing registered, whatever an interrupted run left.
+inline void unregister_all() {
+  ASSERT_EQ(call("DllUnregisterServer"), S_OK) << "with nothing registered, or a leftover";
+  ASSERT_EQ(call("DllInstall", FALSE, L"user"), S_OK);
+}
+
+}  // namespace outside
