@@ -12,22 +12,11 @@
 
 #include "ZORBOffice/common/bstr.h"
 #include "ZORBOffice/common/com_ptr.h"
-#include "ZORBOffice/surface/published_classes.h"
+#include "ZORBOffice/registration_values.h"
+#include "tools/class_list.h"
 
 namespace zorboffice {
 namespace {
-
-struct Class {
-  const PublishedClass& published;
-  const IID& default_interface_id;
-  const IID& event_interface_id;
-};
-
-constexpr Class classes[] = {
-    {zorb_word_class, zorb_word_interface_id, zorb_word_events_id},
-    {zorb_outlook_class, zorb_outlook_interface_id, zorb_outlook_events_id},
-    {open_writer_class, open_writer_interface_id, open_writer_events_id},
-};
 
 using File = std::unique_ptr<FILE, int (*)(FILE*)>;
 
@@ -221,7 +210,7 @@ void write_type_library(const std::wstring& path) {
   require(library->SetGuid(library_id), "SetGuid");
   require(library->SetVersion(type_library_major, type_library_minor), "SetVersion");
   require(library->SetLcid(type_library_locale), "SetLcid");
-  require(library->SetLibFlags(LIBFLAG_FCONTROL), "SetLibFlags");
+  require(library->SetLibFlags(type_library_flags), "SetLibFlags");
   const auto dispatch = dispatch_interface();
   for (const Class& row : classes) add_class(library.get(), dispatch.get(), row);
   require(library->SaveAllChanges(), "SaveAllChanges");
