@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <string>
+#include <utility>
 
 #include "ZORBOffice/common/conversions.h"
 #include "ZORBOffice/common/message_box.h"
@@ -33,8 +34,9 @@ Bstr joined_values(const AutomationObject& item, const wchar_t* members) {
 template <const wchar_t* element_member>
 Bstr joined_elements(const AutomationObject& item, const wchar_t* member) {
   std::wstring joined;
+  const wchar_t* separator = L"";
   value_of(item, member).object().for_each([&](const Result& element) {
-    if (!joined.empty()) joined += L';';
+    joined += std::exchange(separator, L";");
     joined += element.get(element_member).text().view();
   });
   return Bstr(joined);
