@@ -1,5 +1,6 @@
 #include "fake_object.h"
 
+#include <gtest/gtest.h>
 #include <wrl/client.h>
 
 #include <algorithm>
@@ -101,7 +102,11 @@ class FakeObject final : public Recorded<IDispatch> {
  public:
   using Recorded::Recorded;
 
-  HRESULT WINAPI GetTypeInfoCount(UINT* count) override { return *count = 0, S_OK; }
+  HRESULT WINAPI GetTypeInfoCount(UINT* count) override {
+    const auto refused = office_.refused.find(name_);
+    *count = 0;
+    return refused == office_.refused.end() ? S_OK : refused->second;
+  }
   HRESULT WINAPI GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
   HRESULT WINAPI GetIDsOfNames(REFIID iid, LPOLESTR* asked, UINT count, LCID, DISPID* identifiers) override {
     if (iid != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
@@ -151,6 +156,7 @@ class FakeObject final : public Recorded<IDispatch> {
 IDispatch* FakeOffice::make(const std::string& name) { return new FakeObject(*this, name); }
 
 HRESULT FakeOffice::step(const std::string& line, EXCEPINFO* info) {
+  EXPECT_EQ(GetCurrentThreadId(), apartment) << line;
   log.push_back(line);
   if (log.size() != fail_at) return S_OK;
   due = failure;
@@ -179,6 +185,7 @@ std::string describe(const VARIANT& value) {
   if (V_ISBYREF(&value)) {
     if (!value.byref) return "&null";
     if (value.vt == (VT_BYREF | VT_VARIANT)) return "&variant " + describe(*value.pvarVal);
+    if (value.vt & VT_ARRAY) return *value.pparray ? "&array" : "&array never dimensioned";
     VariantCopyInd(&copy, const_cast<VARIANT*>(&value));
     return "&" + describe(_variant_t(copy, false));
   }

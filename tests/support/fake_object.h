@@ -39,7 +39,8 @@ class FakeOffice {
   std::set<std::string> objects;
   // Other answers by "Object.Member(arguments as logged)" or, for any arguments, "Object.Member".
   std::map<std::string, Answer> answers;
-  // The members, as "Object.Member", whose names are not found, with what the look-up returns.
+  // The members, as "Object.Member", whose names are not found, with what the look-up returns; and the
+  // objects whose process does not answer, with what a call returns that asks nothing of them.
   std::map<std::string, HRESULT> refused;
   // The step that fails with `failure`, counted in lines of the log from 1; 0 for none.
   size_t fail_at = 0;
@@ -48,6 +49,8 @@ class FakeOffice {
   std::vector<std::string> log;
   // Objects and enumerators that somebody still holds.
   int live = 0;
+  // The one thread that may call them.
+  const DWORD apartment = GetCurrentThreadId();
 
   // A new object called `name`; the caller owns the reference.
   IDispatch* make(const std::string& name);

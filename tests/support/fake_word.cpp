@@ -7,10 +7,12 @@ constexpr GUID class_id = {0x5d3a2e0b, 0x6c0e, 0x4f53, {0x9c, 0x0b, 0x1b, 0x8e, 
 
 }  // namespace
 
-FakeWord::FakeWord() : FakeApplication("Word.Application", class_id) {
-  objects = {"ActiveWindow", "Cells", "Documents", "Find",     "Footers",   "Headers", "Options",
-             "Paragraphs",   "Range", "Rows",      "Sections", "Selection", "System"};
-  answers = {
+FakeWord::FakeWord() : FakeApplication("Word.Application", class_id) { teach_word(*this); }
+
+void teach_word(FakeOffice& office) {
+  office.objects = {"ActiveWindow", "Cells", "Documents", "Find",     "Footers",   "Headers", "Options",
+                    "Paragraphs",   "Range", "Rows",      "Sections", "Selection", "System"};
+  office.answers = {
       {"Application.ActivePrinter", {L"Kept"}},
       {"Application.BackgroundPrintingStatus", {1}},
       {"Application.BackgroundSavingStatus", {1}},

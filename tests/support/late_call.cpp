@@ -6,10 +6,11 @@
 #include "outside/library.h"
 #include "text.h"
 
-std::string late_call(IDispatch* object, const wchar_t* member, std::vector<_variant_t> arguments) {
+std::string late_call(IDispatch* object, const wchar_t* member, std::vector<_variant_t> arguments,
+                      IDispatch* bound_to) {
   DISPID identifier = DISPID_UNKNOWN;
   auto* name = const_cast<wchar_t*>(member);
-  object->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &identifier);
+  (bound_to ? bound_to : object)->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &identifier);
   std::ranges::reverse(arguments);
   DISPPARAMS parameters = {arguments.data(), nullptr, static_cast<UINT>(arguments.size()), 0};
   _variant_t result;
