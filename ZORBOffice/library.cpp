@@ -6,6 +6,7 @@
 #include "ZORBOffice/class_table.h"
 #include "ZORBOffice/module.h"
 #include "ZORBOffice/registration.h"
+#include "ZORBOffice/word/word_global.h"
 
 using namespace zorboffice;
 
@@ -27,7 +28,11 @@ STDAPI DllGetClassObject(REFCLSID class_id, REFIID id, LPVOID* factory) {
 }
 
 // Returns S_OK only while no instance and no class-factory lock is alive.
-STDAPI DllCanUnloadNow() { return can_unload_module() ? S_OK : S_FALSE; }
+STDAPI DllCanUnloadNow() {
+  if (!can_unload_module()) return S_FALSE;
+  release_word_global();
+  return S_OK;
+}
 
 // Registers the classes and the type library for the machine. Returns the failure of the first entry that
 // could not be written; the registry is as it was then.

@@ -65,7 +65,9 @@ class Argument {
   static Argument reference(BSTR* value) { return Argument(VT_BSTR, value); }
   static Argument flag_reference(VARIANT_BOOL* value) { return Argument(VT_BOOL, value); }
 
-  // An array of variants that was declared but never dimensioned.
+  static Argument object_reference(IDispatch** value) { return Argument(VT_DISPATCH, value); }
+
+  // An array of variants; null is one that was declared but never dimensioned.
   static Argument array_reference(SAFEARRAY** value) { return Argument(VT_ARRAY | VT_VARIANT, value); }
 
   // The same argument, matched by name instead of by position.

@@ -82,6 +82,11 @@ AutomationObject AutomationObject::create(const wchar_t* program_id) {
   forget_earlier_failure();
   CLSID class_id;
   check(CLSIDFromProgID(program_id, &class_id));
+  return create(class_id);
+}
+
+AutomationObject AutomationObject::create(const CLSID& class_id) {
+  forget_earlier_failure();
   AutomationObject created;
   check(CoCreateInstance(class_id, nullptr, CLSCTX_SERVER, IID_IDispatch, created.object_.receive_void()));
   return created;
@@ -112,10 +117,16 @@ void AutomationObject::put(const wchar_t* name, const Argument& value) const {
 }
 
 AutomationObject Result::object() const {
+  AutomationObject object = object_or_nothing();
+  if (!object) throw_runtime_error(runtime_error::object_variable_not_set);
+  return object;
+}
+
+AutomationObject Result::object_or_nothing() const {
   const VARIANT& value = value_.get();
   if (V_VT(&value) != VT_DISPATCH && V_VT(&value) != VT_UNKNOWN)
     throw_runtime_error(runtime_error::object_required);
-  if (!V_UNKNOWN(&value)) throw_runtime_error(runtime_error::object_variable_not_set);
+  if (!V_UNKNOWN(&value)) return {};
   if (V_VT(&value) == VT_DISPATCH) return AutomationObject(V_DISPATCH(&value));
   ComPtr<IDispatch> object;
   check(V_UNKNOWN(&value)->QueryInterface(IID_IDispatch, object.receive_void()));

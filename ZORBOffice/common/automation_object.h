@@ -22,8 +22,9 @@ class AutomationObject {
   AutomationObject() = default;  // no object
   explicit AutomationObject(IDispatch* object) : object_(object) {}
 
-  // Creates an object of the class registered under a program identifier. Always a new one.
+  // Creates an object of a class, named by its identifier or by a program identifier. Always a new one.
   static AutomationObject create(const wchar_t* program_id);
+  static AutomationObject create(const CLSID& class_id);
 
   // Reads a property, or calls a method and takes its result.
   template <std::convertible_to<Argument>... Arguments>
@@ -50,6 +51,9 @@ class AutomationObject {
   bool operator==(const AutomationObject& other) const { return dispatch() == other.dispatch(); }
   IDispatch* dispatch() const { return object_.get(); }  // not counted
 
+  // This object as a variable that a call gets by reference: the called side may put another object into it.
+  IDispatch** variable() { return object_.receive(); }
+
  private:
   Result get_with(const wchar_t* name, std::initializer_list<Argument> arguments) const;
   void call_with(const wchar_t* name, std::initializer_list<Argument> arguments) const;
@@ -66,6 +70,9 @@ class Result {
 
   // The object in it: "Object required" where it holds none, "Object variable … not set" where it is Nothing.
   AutomationObject object() const;
+
+  // The same, where Nothing gives no object.
+  AutomationObject object_or_nothing() const;
 
   // The value, converted as the platform converts; an object's is its default property.
   Bstr text() const;

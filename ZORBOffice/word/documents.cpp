@@ -82,10 +82,14 @@ HRESULT WordMembers::SaveDocAsPDF(VARIANT_BOOL* result) noexcept {
   });
 }
 
+void WordMembers::close(const AutomationObject& document, SHORT* SaveOption) {
+  document.call(L"Close", by_ref(SaveOption), original_document_format, false);
+}
+
 HRESULT WordMembers::CloseDoc(SHORT* SaveOption, VARIANT* result) noexcept {
   return trapped(result, message(L"Close Doc "), [&] {
     const AutomationObject held = document();
-    held.call(L"Close", by_ref(SaveOption), original_document_format, false);
+    close(held, SaveOption);
     if (active_document_ == held) active_document_ = {};
   });
 }

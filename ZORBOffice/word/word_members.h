@@ -87,15 +87,21 @@ class WordMembers : public Control<WordProcessorInterface> {
       VARIANT_BOOL* MatchAllWordForms, BYTE* ReplaceOption, BYTE* result) noexcept override;
 
  protected:
-  // One of SetHeaderFooter's choices, whose type is the one difference between the two classes.
+  // One of SetHeaderFooter's choices, whose type is the one difference between the two interfaces.
   virtual bool is_chosen(Choice* choice) const = 0;
 
- private:
   // Members work on references of their own: while an office call waits, the host may run a member that
   // replaces the fields. A member that clears a field leaves such a newer object alone.
   AutomationObject application() const { return application_; }
   AutomationObject document() const { return active_document_; }
 
+  // Closes a document, in its own format, with the host's SaveOption by reference.
+  static void close(const AutomationObject& document, SHORT* SaveOption);
+
+  AutomationObject application_;  // in OpenWriter the suite's service manager
+  AutomationObject active_document_;
+
+ private:
   // A header or footer of the active document, whether it exists or not.
   AutomationObject header_footer(LONG* Section, VARIANT_BOOL* IsHeader, BYTE* HeaderFooterType) const;
 
@@ -104,9 +110,6 @@ class WordMembers : public Control<WordProcessorInterface> {
 
   // Moves the selection to the start or end of a unit (a wdUnits value), without selecting.
   HRESULT move_to_edge(VARIANT* result, const wchar_t* prefix, const wchar_t* edge, LONG unit) noexcept;
-
-  AutomationObject application_;
-  AutomationObject active_document_;
 };
 
 }  // namespace zorboffice

@@ -143,7 +143,9 @@ inline std::vector<Member> members_of(const ClassIds& ids) {
   if (&ids == &classes[1]) return {std::begin(outlook_members), std::end(outlook_members)};
   std::vector<Member> members = {std::begin(word_members), std::end(word_members)};
   if (&ids == &classes[0]) return members;
-  for (Member& member : members) member.fresh = Member::not_built;
+  members[0].fresh = "Start ActiveX component can't create objectActiveX component can't create object";
+  for (const int slot : {1, 2, 7}) members[slot].fresh = "", members[slot].succeeds = true;
+  members[32].fresh = "";
   members[14].signature =
       L"get SetHeaderFooter(SourceTemplate &string, DestTemplate &string, ApplyHeader &byte, "
       L"ApplyFooter &byte, ApplyFont &byte) byte";
