@@ -1,4 +1,4 @@
-' Writes one letter for each customer of a list with ZORBWord:
+' Writes one letter for each customer of a list with ZORBWord, and reads each with OpenWriter to find the customer's name in it:
 '   cscript letters.vbs TEMPLATE LIST FOLDER PDF-FOLDER
 ' LIST is a CSV file in the system's code page whose first line names the template's fields: <<Name>> takes the column Name.
 ' FOLDER gets letter-NUMBER.docx, and PDF-FOLDER, where the PDF printer writes, letter-NUMBER.pdf. Letters that are there
@@ -8,7 +8,7 @@ Option Explicit
 Const all_of_them = 2      ' ReplaceOption: every occurrence
 Const primary_header = 1   ' HeaderFooterType
 
-Dim files, word, template, folder, pdf_folder, lines, fields, customers, line, count, written, i
+Dim files, word, writer, template, folder, pdf_folder, lines, fields, customers, line, count, written, i
 
 If WScript.Arguments.Count <> 4 Then Fail "usage: cscript letters.vbs TEMPLATE LIST FOLDER PDF-FOLDER"
 Set files = CreateObject("Scripting.FileSystemObject")
@@ -39,7 +39,16 @@ For i = 0 To count - 1
   WScript.Echo CStr(i + 1) & " of " & count & ": " & customers(i)(0)
 Next
 word.StopWord False
+Set word = Nothing
 WScript.Echo written & " letters written, " & (count - written) & " were there"
+
+Set writer = CreateObject("ZORBOffice.OpenWriter")
+If writer.Start <> 1 Then Fail "the office suite does not start"
+For i = 0 To count - 1
+  If writer.OpenDoc(folder & "letter-" & customers(i)(0) & ".docx") <> 1 Then Fail "OpenWriter cannot open letter " & customers(i)(0)
+  If InStr(writer.ReadText(0, 0), customers(i)(1)) = 0 Then Fail "OpenWriter does not find " & customers(i)(1) & " in the letter"
+Next
+WScript.Echo count & " letters read, each with its customer's name"
 WScript.Echo "letters.vbs: done"
 
 ' The document gets its final name last: where that file is, the letter is whole.

@@ -19,6 +19,10 @@ struct Choice;
 // message box, and the member answers its failure result and S_OK. Silent: the same without the box. None:
 // the failure reaches the host as a failed call with number and description.
 //
+// In OpenWriter the suite's service manager stands where the application does. Where a member differs there,
+// its comment says so; every other one asks the service manager and the suite's document for the word
+// processor's members, and fails as in ZORBWord where they do not have them.
+//
 // A byte result is 1 for success and 0 for failure; a flag result is VARIANT_TRUE or VARIANT_FALSE; a variant
 // result is always empty. Units and constants named wd... are those of the word processor's object model.
 struct WordProcessorInterface : IDispatch {
@@ -26,9 +30,13 @@ struct WordProcessorInterface : IDispatch {
   // optional, default false): true places the window 3 cm from the left and fills the screen less margins,
   // false switches automatic numbered lists off instead. Trap: silent; the application stays held when a
   // later step failed.
+  // OpenWriter: creates the service manager, its core reflection and its desktop; true then asks the service
+  // manager to place the window, false does nothing more. Trap: message "Start ", and a second box with the
+  // description alone; what was created stays held.
   virtual HRESULT STDMETHODCALLTYPE get_Start(VARIANT_BOOL* Template, BYTE* result) noexcept = 0;
 
   // Shows or hides the application (IsVisible: flag) and activates it. Trap: message "SetVisible", no blank.
+  // OpenWriter: does nothing and returns 1, as SetActive and SetScreenUpdating do.
   virtual HRESULT STDMETHODCALLTYPE get_SetVisible(VARIANT_BOOL* IsVisible, BYTE* result) noexcept = 0;
 
   // Activates the application, whatever IsActive (flag) says. Trap: message "Set Active ".
@@ -36,10 +44,12 @@ struct WordProcessorInterface : IDispatch {
 
   // Opens the file Doc (path) and makes it the active document. The earlier one is not closed; it stays the
   // active document when opening fails. Trap: message "OpenDoc ".
+  // OpenWriter: loads the URL "file:///" followed by Doc as it is.
   virtual HRESULT STDMETHODCALLTYPE get_OpenDoc(BSTR* Doc, BYTE* result) noexcept = 0;
 
   // Creates a document from the template Doc (path, optional, default "": the normal template) and makes it
   // the active document; the earlier one stays when that fails. Trap: message "Create Doc ".
+  // OpenWriter: loads the URL "file:///" followed by Doc, also when Doc is empty.
   virtual HRESULT STDMETHODCALLTYPE get_CreateDoc(BSTR* Doc, BYTE* result) noexcept = 0;
 
   // Types Text at the selection. Trap: message "SendText ".
@@ -48,6 +58,7 @@ struct WordProcessorInterface : IDispatch {
   // Reads the document's text from character StartPos to EndPos, counted from 0. A start of 0 or less with an
   // end means 1, so the first character is left out; an end of 0 or less means the text's length; both 0 or
   // less read all sections' texts, joined. Returns "" on failure. Trap: message "ReadText : ".
+  // OpenWriter: reads all of the text, whatever the positions.
   virtual HRESULT STDMETHODCALLTYPE get_ReadText(LONG* StartPos, LONG* EndPos, BSTR* result) noexcept = 0;
 
   // Switches the redrawing of the application's windows (Update: flag). Trap: message "Set Screen Updating ".
@@ -57,6 +68,9 @@ struct WordProcessorInterface : IDispatch {
   // wdFindContinue 1, wdFindAsk 2; default 1), SearchForward (default true), BeginAtTop (search from the
   // document's start; default false), and five match flags (default false). Returns 1 when found. Trap:
   // message "Search ".
+  // OpenWriter: first shows SearchString in a message box, then finds its first occurrence, as a regular
+  // expression with MatchWildcards (all other options have no effect), shows the selected text in a second
+  // box and selects nothing.
   virtual HRESULT STDMETHODCALLTYPE get_Search(BSTR* SearchString, BYTE* WrapAction,
                                                VARIANT_BOOL* SearchForward, VARIANT_BOOL* BeginAtTop,
                                                VARIANT_BOOL* MatchCase, VARIANT_BOOL* MatchWholeWord,
@@ -166,6 +180,7 @@ struct WordProcessorInterface : IDispatch {
   // Closes the document and lets go of it. SaveOption (optional, default 0): wdDoNotSaveChanges 0,
   // wdPromptToSaveChanges -2, wdSaveChanges -1. It stays the active document on failure.
   // Trap: message "Close Doc ".
+  // OpenWriter: it stays the active document in any case. Trap: silent.
   virtual HRESULT STDMETHODCALLTYPE CloseDoc(SHORT* SaveOption, VARIANT* result) noexcept = 0;
 
   // Quits the application and lets go of it: with Force (flag, optional) always, otherwise only when no
