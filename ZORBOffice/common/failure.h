@@ -16,7 +16,6 @@ inline constexpr LONG type_mismatch = 13;
 inline constexpr LONG object_variable_not_set = 91;
 inline constexpr LONG object_required = 424;
 inline constexpr LONG automation_error = 440;
-inline constexpr LONG action_not_supported = 445;
 inline constexpr LONG named_argument_not_found = 448;
 }  // namespace runtime_error
 

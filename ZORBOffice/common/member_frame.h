@@ -167,10 +167,4 @@ void resuming(const Trap& trap, const Body& step) {
   detail::run_step(detail::CallableRef(step), detail::TrapRef(trap));
 }
 
-// The answer of a member that is not built yet.
-template <class ResultType>
-HRESULT not_built(ResultType* result) noexcept {
-  return trapped(result, none, [] { throw_runtime_error(runtime_error::action_not_supported); });
-}
-
 }  // namespace zorboffice

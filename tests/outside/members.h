@@ -14,10 +14,9 @@ struct Member {
   DISPID id;
   const wchar_t* signature;
   // The message boxes' texts; "" for none; or what reaches the host instead.
-  const char* fresh = not_built;
+  const char* fresh;
   bool succeeds = false;
-  static constexpr const char *not_built = "raised: Object doesn't support this action",
-                              *raised = "raised: Object required",
+  static constexpr const char *raised = "raised: Object required",
                               *not_set = "raised: Object variable or With block variable not set";
 };
 
