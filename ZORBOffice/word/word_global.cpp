@@ -48,7 +48,7 @@ AutomationObject word_global() {
     return AutomationObject(kept.get());
   }
 
-  const AutomationObject created = AutomationObject::create(global_class_id);
+  AutomationObject created = AutomationObject::create(global_class_id);
   DWORD own = 0;
   check(table->RegisterInterfaceInGlobal(created.dispatch(), IID_IDispatch, &own));
   // When another thread was faster its object stays, and this one serves this call only.
