@@ -161,11 +161,6 @@ bool Result::flag() const {
   return value_.type() != VT_NULL && V_BOOL(&converted_to(VT_BOOL).get()) != VARIANT_FALSE;
 }
 
-bool Result::is_nothing() const {
-  const VARIANT& value = value_.get();
-  return (V_VT(&value) == VT_DISPATCH || V_VT(&value) == VT_UNKNOWN) && !V_UNKNOWN(&value);
-}
-
 Enumerator::Enumerator(const AutomationObject& collection) {
   if (!collection) throw_runtime_error(runtime_error::object_required);
   Result enumerator;

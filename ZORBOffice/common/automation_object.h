@@ -82,9 +82,6 @@ class Result {
   DATE date() const;
   bool flag() const;  // null counts as false
 
-  // Whether it is the object Nothing.
-  bool is_nothing() const;
-
   // Chains go on without a step between.
   template <class... Arguments>
   Result get(const wchar_t* name, Arguments&&... arguments) const {

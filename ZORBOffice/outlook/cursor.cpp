@@ -39,9 +39,9 @@ HRESULT ZORBOutlook::GetItemCount(BSTR EntryType, SHORT* result) noexcept {
 HRESULT ZORBOutlook::GetFirstItem(BSTR EntryType, VARIANT_BOOL* result) noexcept {
   return for_entry_type(EntryType, L"Get First Item", result, shown_and_stored(L"first item "),
                         [&](const EntryTypeRow& type) {
-                          const Result item = items(type).get(L"GetFirst");
-                          if (item.is_nothing()) return false;
-                          if (make_current(type, item.object())) return true;
+                          const AutomationObject item = items(type).get(L"GetFirst").object_or_nothing();
+                          if (!item) return false;
+                          if (make_current(type, item)) return true;
                           // A failure from here on is the next item's, and shown as such.
                           VARIANT_BOOL found = VARIANT_FALSE;
                           check(GetNextItem(EntryType, &found));
@@ -53,9 +53,9 @@ HRESULT ZORBOutlook::GetNextItem(BSTR EntryType, VARIANT_BOOL* result) noexcept 
   return for_entry_type(EntryType, L"Get Next Item", result, shown_and_stored(L"next item "),
                         [&](const EntryTypeRow& type) {
                           for (;;) {
-                            const Result item = items(type).get(L"GetNext");
-                            if (item.is_nothing()) return false;
-                            if (make_current(type, item.object())) return true;
+                            const AutomationObject item = items(type).get(L"GetNext").object_or_nothing();
+                            if (!item) return false;
+                            if (make_current(type, item)) return true;
                           }
                         });
 }

@@ -78,6 +78,10 @@ inline DWORD regsvr32(const std::wstring& options, const std::wstring& path = li
 
 // So that a test starts with nothing registered, whatever an interrupted run left.
 inline void unregister_all() {
+  // Windows has a user's classes from the beginning, Wine since the first entry.
+  HKEY classes = nullptr;
+  ASSERT_EQ(RegCreateKeyW(HKEY_CURRENT_USER, root.c_str(), &classes), ERROR_SUCCESS);
+  RegCloseKey(classes);
   ASSERT_EQ(call("DllUnregisterServer"), S_OK) << "with nothing registered, or a leftover";
   ASSERT_EQ(call("DllInstall", FALSE, L"user"), S_OK);
 }
