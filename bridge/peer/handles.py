@@ -10,6 +10,9 @@ import uno
 from failures import Failure, TYPE_MISMATCH, clean
 
 
+DAY_ZERO = datetime.datetime(1899, 12, 30)  # Of automation's dates.
+
+
 class NoSuchMember(Exception):
     """The object has no member of that name, or the member cannot be used in that way."""
 
@@ -101,8 +104,10 @@ class Handles:
         if "missing" in value:
             return MISSING
         if "date" in value:
-            day = datetime.datetime(1899, 12, 30)
-            return day + datetime.timedelta(days=value["date"])
+            try:
+                return DAY_ZERO + datetime.timedelta(days=value["date"])
+            except OverflowError:
+                raise Failure(TYPE_MISMATCH) from None
         return None
 
     def to_json(self, value, session):
@@ -121,6 +126,8 @@ class Handles:
             return value
         if isinstance(value, str):
             return clean(value)
+        if isinstance(value, datetime.datetime):
+            return {"date": (value - DAY_ZERO) / datetime.timedelta(days=1)}
         if isinstance(value, (tuple, list)):
             return {"array": [self.to_json(item, session) for item in value]}
         if isinstance(value, uno.ByteSequence):

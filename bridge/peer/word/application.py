@@ -4,6 +4,7 @@ import os
 
 import uno
 
+from binding import converted, parameters
 from failures import Failure, PEER_GONE, UnoException
 from handles import Single
 from word import binding, filters, templates
@@ -121,7 +122,7 @@ class WordSession:
         return "word " + type(item).__name__
 
     def parameters(self, item, name):
-        return binding.parameters(item, name)
+        return parameters(item, name)
 
     def call(self, item, name, arguments, named):
         self._require()
@@ -155,7 +156,7 @@ class Documents(Collection):
                 return document
         if isinstance(Index, str):
             raise WordError(NO_MEMBER)
-        return super().Item(binding.converted(Index, int))
+        return super().Item(converted(Index, int))
 
     def Open(
         self,

@@ -1,18 +1,9 @@
 """How a call by name reaches a member of the word processor's object model, and how that model fails."""
 
-import inspect
-
-from failures import (
-    BAD_PARAMETER_COUNT,
-    Disposed,
-    Failure,
-    PARAMETER_NOT_FOUND,
-    PARAMETER_NOT_OPTIONAL,
-    TYPE_MISMATCH,
-    UnoException,
-    text_of,
-)
-from handles import MISSING, NoSuchMember, Single
+import binding
+from binding import Published
+from failures import Disposed, Failure, UnoException, text_of
+from handles import Single
 from word.places import units
 
 # The numbers and texts of the word processor itself.
@@ -43,22 +34,8 @@ class WordError(Failure):
         super().__init__(0x800A0000 | number, f"{text} {more}".rstrip(), "Word")
 
 
-class WordObject:
-    """Base of all objects of the model. What begins with a capital is published, in any case of its letters;
-    DEFAULT names the member that stands for the object itself."""
-
-    DEFAULT = None
-
-    @classmethod
-    def published(cls, name):
-        """Return the class's member of that name: a property or a function; NoSuchMember if there is none."""
-        if "_published" not in cls.__dict__:
-            names = (each for each in dir(cls) if each[0].isupper() and each != "DEFAULT")
-            cls._published = {each.lower(): each for each in names}
-        try:
-            return inspect.getattr_static(cls, cls._published[(name or cls.DEFAULT or "").lower()])
-        except KeyError:
-            raise NoSuchMember from None
+class WordObject(Published):
+    """Base of all objects of the word processor's model."""
 
 
 class Collection(WordObject):
@@ -100,79 +77,14 @@ def kept(kind, initial, allowed=None, longest=None):
     return property(read, write)
 
 
-def parameters(item, name):
-    """Return the names of a member's parameters, or None where the object has no such member."""
-    try:
-        member = type(item).published(name)
-    except NoSuchMember:
-        return None
-    return [] if isinstance(member, property) else list(inspect.signature(member).parameters)[1:]
-
-
 def call(item, name, arguments, named):
-    """Read a property or call a method. What follows a property in parentheses goes to the default member of
-    its value."""
-    member = type(item).published(name)
-    if not isinstance(member, property):
-        return _guarded(lambda: member(item, **_bound(member, arguments, named)))
-    value = _guarded(lambda: member.fget(item))
-    if not arguments and not named:
-        return value
-    if not isinstance(value, WordObject):
-        raise Failure(BAD_PARAMETER_COUNT)
-    return call(value, "", arguments, named)
+    """Read a property or call a method; what LibreOffice reports fails as the word processor would."""
+    return _guarded(lambda: binding.call(item, name, arguments, named))
 
 
 def put(item, name, arguments):
-    """Write a property."""
-    member = type(item).published(name)
-    if not isinstance(member, property) or member.fset is None or len(arguments) != 1:
-        raise NoSuchMember
-    annotation = list(inspect.signature(member.fset).parameters.values())[1].annotation
-    _guarded(lambda: member.fset(item, converted(arguments[0], annotation)))
-
-
-def _bound(member, arguments, named):
-    """Return a call's arguments by parameter name; what was left out takes its default."""
-    known = list(inspect.signature(member).parameters.values())[1:]
-    if len(arguments) > len(known):
-        raise Failure(BAD_PARAMETER_COUNT)
-    by_lower_name = {parameter.name.lower(): parameter for parameter in known}
-    given = {parameter.name: value for parameter, value in zip(known, arguments, strict=False)}
-    for name, value in named.items():
-        if name.lower() not in by_lower_name:
-            raise Failure(PARAMETER_NOT_FOUND)
-        given[by_lower_name[name.lower()].name] = value
-    bound = {}
-    for parameter in known:
-        value = given.get(parameter.name, MISSING)
-        if value is not MISSING:
-            bound[parameter.name] = converted(value, parameter.annotation)
-        elif parameter.default is parameter.empty:
-            raise Failure(PARAMETER_NOT_OPTIONAL)
-    return bound
-
-
-def converted(value, kind):
-    """Return the value as the parameter's kind, by automation's rules of conversion."""
-    try:
-        if kind is int and isinstance(value, bool):
-            return -1 if value else 0
-        if kind is int:
-            return round(float(value or 0))
-        if kind is float:
-            return float(value or 0)
-        if kind is bool and isinstance(value, str):
-            return {"true": True, "false": False}[value.lower()] if value.isalpha() else float(value) != 0
-        if kind is bool:
-            return bool(value)
-        if kind is str and (value is None or isinstance(value, (str, int, float))):
-            return "" if value is None else str(value)
-    except (TypeError, ValueError, KeyError, OverflowError):
-        raise Failure(TYPE_MISMATCH) from None
-    if kind is str:
-        raise Failure(TYPE_MISMATCH)
-    return value
+    """Write a property, and fail in the same way."""
+    _guarded(lambda: binding.put(item, name, arguments))
 
 
 def _guarded(body):

@@ -4,6 +4,7 @@ import os
 
 import uno
 
+from binding import converted
 from word import filters, first_pages
 from word.binding import (
     BAD_PATH,
@@ -15,7 +16,6 @@ from word.binding import (
     VALUE_OUT_OF_RANGE,
     WordError,
     WordObject,
-    converted,
 )
 from word.flow import MainFlow
 from word.page_styles import PageStyle, SectionStyles

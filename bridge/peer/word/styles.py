@@ -2,9 +2,10 @@
 
 import uno
 
+from binding import converted
 from failures import Failure, TYPE_MISMATCH
 from handles import Single
-from word.binding import Collection, NO_MEMBER, VALUE_OUT_OF_RANGE, WordError, WordObject, converted
+from word.binding import Collection, NO_MEMBER, VALUE_OUT_OF_RANGE, WordError, WordObject
 
 # WdBuiltinStyle of the object model, and LibreOffice's own names.
 BUILT_IN = {-1: "Standard"} | {-1 - level: f"Heading {level}" for level in range(1, 10)}
