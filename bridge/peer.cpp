@@ -50,20 +50,29 @@ DWORD WINAPI Peer::read_lines(void* self) {
 
 bool Peer::send_line(const std::string& line) {
   for (size_t sent = 0; sent < line.size();) {
-    const int count = send(socket_, line.data() + sent, static_cast<int>(line.size() - sent), 0);
+    const int count = ::send(socket_, line.data() + sent, static_cast<int>(line.size() - sent), 0);
     if (count <= 0) return false;
     sent += count;
   }
   return true;
 }
 
+void Peer::send(const Json& request) {
+  if (gone_ || !send_line(request.dump(-1, ' ', true, Json::error_handler_t::replace) + '\n')) {
+    throw CallError{kPeerGone};
+  }
+}
+
+void Peer::tell(const Json& request) {
+  Locked turn(turn_);
+  send(request);
+}
+
 Json Peer::ask(const Json& request) {
   std::string line;
   {
     Locked turn(turn_);
-    if (gone_ || !send_line(request.dump(-1, ' ', true, Json::error_handler_t::replace) + '\n')) {
-      throw CallError{kPeerGone};
-    }
+    send(request);
     WaitForSingleObject(answered_, INFINITE);
     if (gone_) {
       SetEvent(answered_);

@@ -41,7 +41,7 @@ HRESULT guarded(EXCEPINFO* failure, Body body) noexcept {
 RemoteObject::~RemoteObject() {
   // Nobody is left to hear of a failure, and a peer that is gone holds nothing.
   guarded(nullptr, [&] {
-    peer().ask({{"do", "release"}, {"object", id_}});
+    peer().tell({{"do", "release"}, {"object", id_}});
     return S_OK;
   });
 }

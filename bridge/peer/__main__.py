@@ -46,9 +46,12 @@ class Peer:
         self.handles = Handles()
 
     def answer(self, line):
-        """Return the answer to one request line; raises OfficeGone and nothing else."""
+        """Return the answer to one request line, None for one that is told and not asked; raises OfficeGone and
+        nothing else."""
         try:
             request = json.loads(line)
+            if request["do"] == "release":
+                return self.release(request["object"])
             return {"value": getattr(self, "do_" + request["do"])(request)}
         except Failure as failure:
             if isinstance(failure.__cause__, Disposed):  # One object has ended, or the whole office has.
@@ -95,8 +98,13 @@ class Peer:
         item, session = self.handles.find(request["object"])
         return self.handles.to_json(list(session.items(item)), session)
 
-    def do_release(self, request):
-        self.handles.release(request["object"])
+    def release(self, number):
+        """Let go of an object; nobody waits to hear how that went."""
+        try:
+            self.handles.release(number)
+        except Exception:
+            self.require_office()
+            traceback.print_exc()
 
     def do_client_ended(self, request):
         self.handles.end_client(request["client"])
@@ -110,8 +118,10 @@ def serve(peer, listener):
             connection.setsockopt(socket.IPPROTO_TCP, socket.TCP_NODELAY, 1)
             try:
                 for line in stream:
-                    stream.write(json.dumps(peer.answer(line), allow_nan=False).encode() + b"\n")
-                    stream.flush()
+                    answer = peer.answer(line)
+                    if answer is not None:
+                        stream.write(json.dumps(answer, allow_nan=False).encode() + b"\n")
+                        stream.flush()
             except ConnectionError:
                 pass
         # The COM server is gone, and with it every client that could still reach an object.
