@@ -1,4 +1,4 @@
-// The two classes that clients can create, and the class objects that create them.
+// The classes that clients can create, and the class objects that create them.
 #pragma once
 
 #include <windows.h>
@@ -13,9 +13,9 @@ struct ServedClass {
   const char* peer_name;
 };
 
-// Both identifiers are those that the programs themselves are known by: what a client has stored must find
+// All identifiers are those that the programs themselves are known by: what a client has stored must find
 // the bridge.
-inline constexpr std::array<ServedClass, 2> kServedClasses = {{
+inline constexpr std::array<ServedClass, 3> kServedClasses = {{
     {{0x000209ff, 0x0000, 0x0000, {0xc0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}},
      L"Word.Application",
      L"Word processor, answered by LibreOffice",
@@ -24,6 +24,10 @@ inline constexpr std::array<ServedClass, 2> kServedClasses = {{
      L"com.sun.star.ServiceManager",
      L"Office suite's service manager, answered by LibreOffice",
      "suite"},
+    {{0x0006f03a, 0x0000, 0x0000, {0xc0, 0x00, 0x00, 0x00, 0x00, 0x00, 0x00, 0x46}},
+     L"Outlook.Application",
+     L"Stand-in for Outlook",
+     "outlook"},
 }};
 
 class ClassFactory final : public IClassFactory {

@@ -15,7 +15,7 @@ constexpr const char* kUsage =
     "usage: zorboffice_bridge --register PORT   write the classes and the PDF printer for the peer at PORT\n"
     "       zorboffice_bridge --unregister      remove them\n"
     "       zorboffice_bridge --serve PORT      serve clients until the peer hangs up\n"
-    "       zorboffice_bridge --check           create a word processor as any client would\n";
+    "       zorboffice_bridge --check CLASS     create an object of a class as any client would\n";
 
 int fail(const char* text) {
   std::fprintf(stderr, "zorboffice_bridge: %s\n", text);
@@ -46,7 +46,9 @@ int serve(unsigned short port) {
   } catch (const CallError&) {
     return fail("the peer does not answer");
   }
-  static ClassFactory factories[] = {ClassFactory(kServedClasses[0]), ClassFactory(kServedClasses[1])};
+  static ClassFactory factories[] = {ClassFactory(kServedClasses[0]), ClassFactory(kServedClasses[1]),
+                                     ClassFactory(kServedClasses[2])};
+  static_assert(std::size(factories) == kServedClasses.size());
   DWORD cookies[std::size(factories)] = {};
   bool registered = true;
   for (size_t index = 0; index < std::size(factories); ++index) {
@@ -62,12 +64,16 @@ int serve(unsigned short port) {
   return registered ? 0 : fail("cannot register the class objects");
 }
 
-int check() {
+int check(const wchar_t* program_id) {
   IDispatch* application = nullptr;
-  const HRESULT result = CoCreateInstance(kServedClasses[0].id, nullptr, CLSCTX_LOCAL_SERVER, IID_IDispatch,
-                                          reinterpret_cast<void**>(&application));
+  CLSID id{};
+  HRESULT result = CLSIDFromProgID(program_id, &id);
+  if (SUCCEEDED(result)) {
+    result = CoCreateInstance(id, nullptr, CLSCTX_LOCAL_SERVER, IID_IDispatch,
+                              reinterpret_cast<void**>(&application));
+  }
   if (FAILED(result)) {
-    std::fprintf(stderr, "zorboffice_bridge: cannot create the word processor: 0x%08lX\n", result);
+    std::fprintf(stderr, "zorboffice_bridge: cannot create an object of the class: 0x%08lX\n", result);
     return 1;
   }
   application->Release();
@@ -88,8 +94,8 @@ int wmain(int count, wchar_t** arguments) {
     result = 0;
   } else if (command == L"--serve" && port != 0) {
     result = serve(port);
-  } else if (command == L"--check") {
-    result = check();
+  } else if (command == L"--check" && count > 2) {
+    result = check(arguments[2]);
   } else {
     std::fputs(kUsage, stderr);
   }

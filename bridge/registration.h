@@ -1,4 +1,4 @@
-// What the registry of the prefix gets: the two classes, and a printer that prints to PDF.
+// What the registry of the prefix gets: the classes, and a printer that prints to PDF.
 #pragma once
 
 #include <string>

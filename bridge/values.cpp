@@ -177,6 +177,9 @@ VARIANT to_variant(const Json& value) {
     result->vt = VT_DISPATCH;
   } else if (value.contains("array")) {
     return array_to_variant(value["array"]);
+  } else if (value.contains("date")) {
+    result->vt = VT_DATE;
+    result->date = value["date"].get<DATE>();
   } else if (value.contains("short")) {
     result->vt = VT_I2;
     result->iVal = value["short"].get<SHORT>();

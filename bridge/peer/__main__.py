@@ -11,7 +11,8 @@ import traceback
 import uno
 
 from handles import Handles, NoSuchMember
-from failures import Disposed, Failure
+from failures import Disposed, Failure, SERVER_NOT_STARTED
+from outlook.application import Outlook, OutlookSession
 from paths import Paths
 from suite import SuiteSession
 from word.application import WordSession
@@ -36,13 +37,15 @@ class OfficeGone(Exception):
 
 
 class Peer:
-    """Answers requests; every created class is a session with objects of its own."""
+    """Answers requests; every created class is a session with objects of its own. Without an office's context there
+    is only what needs none."""
 
     def __init__(self, context, paths, pdf_folder):
         self.context = context
         self.paths = paths
         self.pdf_folder = pdf_folder
         self.surroundings = {"printers": [], "pdf_printer": "", "screen": [0, 0], "dots_per_inch": 96}
+        self.outlook = Outlook(paths)
         self.handles = Handles()
 
     def answer(self, line):
@@ -65,9 +68,10 @@ class Peer:
             return {"failure": Failure(0x8000FFFF, f"{type(error).__name__}: {error}", "bridge").as_json()}
 
     def require_office(self):
-        """Raise OfficeGone when the office no longer answers."""
+        """Raise OfficeGone when there is an office that no longer answers."""
         try:
-            self.context.getServiceManager()
+            if self.context:
+                self.context.getServiceManager()
         except Exception as error:
             raise OfficeGone from error
 
@@ -75,8 +79,13 @@ class Peer:
         self.surroundings.update({key: request[key] for key in self.surroundings})
 
     def do_create(self, request):
-        kind = {"word": WordSession, "suite": SuiteSession}[request["class"]]
-        session = kind(self.context, self.paths, self.surroundings, self.pdf_folder)
+        if request["class"] == "outlook":
+            session = OutlookSession(self.outlook)
+        elif self.context:
+            kind = {"word": WordSession, "suite": SuiteSession}[request["class"]]
+            session = kind(self.context, self.paths, self.surroundings, self.pdf_folder)
+        else:
+            raise Failure(SERVER_NOT_STARTED)
         return self.handles.new_session(session, request["client"])
 
     def do_member(self, request):
@@ -130,14 +139,14 @@ def serve(peer, listener):
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__)
-    parser.add_argument("--office-pipe", required=True, help="name of the pipe at which the office accepts")
+    parser.add_argument("--office-pipe", help="name of the pipe at which the office accepts; none without")
     parser.add_argument("--prefix", required=True, help="the Wine prefix, for the drives of Windows paths")
     parser.add_argument("--pdf-folder", required=True, help="where printed documents go")
     parser.add_argument("--port-file", required=True, help="file that gets the port once the peer is ready")
     options = parser.parse_args()
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(0))
     try:
-        context = connect_office(options.office_pipe, 30)
+        context = connect_office(options.office_pipe, 30) if options.office_pipe else None
     except ConnectionError as error:
         sys.exit(f"peer: {error}")
     peer = Peer(context, Paths(options.prefix), options.pdf_folder)
