@@ -1,4 +1,5 @@
-// A slim lock held for a scope; the win32 thread model of the compiler's library has no std::mutex.
+// A slim lock held for a scope, and a signal to wait for; the win32 thread model of the compiler's library
+// has neither std::mutex nor std::condition_variable.
 #pragma once
 
 #include <windows.h>
@@ -11,6 +12,7 @@ class Lock {
 
  private:
   friend class Locked;
+  friend class Signal;
   SRWLOCK lock_ = SRWLOCK_INIT;
 };
 
@@ -22,5 +24,20 @@ class Locked {
   Locked& operator=(const Locked&) = delete;
 
  private:
+  friend class Signal;
   Lock& lock_;
+};
+
+class Signal {
+ public:
+  Signal() = default;
+  Signal(const Signal&) = delete;
+  Signal& operator=(const Signal&) = delete;
+
+  void give() { WakeAllConditionVariable(&condition_); }
+  // Lets go of the lock, waits for the signal, and takes the lock again; it may also return without one.
+  void wait(Locked& locked) { SleepConditionVariableSRW(&condition_, &locked.lock_.lock_, INFINITE, 0); }
+
+ private:
+  CONDITION_VARIABLE condition_ = CONDITION_VARIABLE_INIT;
 };

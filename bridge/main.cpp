@@ -36,7 +36,24 @@ void greet() {
               {"dots_per_inch", dots_per_inch}});
 }
 
+// Every object that goes to a client needs a stub, for which the platform reads the registry anew each time,
+// unless it finds the stubs' class among those that the process itself offers.
+void keep_stubs_at_hand() {
+  CLSID stubs{};
+  IUnknown* factory = nullptr;
+  DWORD cookie = 0;
+  if (FAILED(CoGetPSClsid(IID_IDispatch, &stubs)) || FAILED(CoRegisterPSClsid(IID_IDispatch, stubs))) return;
+  if (FAILED(CoGetClassObject(stubs, CLSCTX_INPROC_SERVER, nullptr, IID_IPSFactoryBuffer,
+                              reinterpret_cast<void**>(&factory)))) {
+    return;
+  }
+  CoRegisterClassObject(stubs, factory, CLSCTX_INPROC_SERVER | CLSCTX_INPROC_HANDLER, REGCLS_MULTIPLEUSE,
+                        &cookie);
+  factory->Release();
+}
+
 int serve(unsigned short port) {
+  keep_stubs_at_hand();
   // A client that comes while the server is still starting makes the platform start another one.
   const HANDLE only = CreateMutexW(nullptr, TRUE, L"ZORBOffice bridge");
   if (!only || GetLastError() == ERROR_ALREADY_EXISTS) return fail("already serving");

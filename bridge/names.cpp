@@ -38,6 +38,7 @@ Member Names::member(const std::string& class_name, DISPID name, long object) {
   Member member;
   member.exists = answer.is_object();
   if (member.exists) {
+    if (answer["constant"].is_number_integer()) member.constant = answer["constant"].get<long>();
     for (const Json& parameter : answer["parameters"]) {
       member.parameters.push_back(narrow(lower_case(wide(parameter.get<std::string>()))));
     }
@@ -45,4 +46,10 @@ Member Names::member(const std::string& class_name, DISPID name, long object) {
   Locked locked(lock_);
   members_[key] = member;
   return member;
+}
+
+std::optional<long> Names::constant(const std::string& class_name, DISPID name) {
+  Locked locked(lock_);
+  const auto known = members_.find({class_name, name});
+  return known == members_.end() ? std::nullopt : known->second.constant;
 }

@@ -16,6 +16,7 @@
 struct Member {
   bool exists = false;
   std::vector<std::string> parameters;  // In lower case; empty where the peer knows no names.
+  std::optional<long> constant;         // The value, where all objects of the class have the same for ever.
 };
 
 class Names {
@@ -27,6 +28,8 @@ class Names {
   // What is known of a class's member, asking the peer through the object when it is met for the first time.
   // Throws CallError when the peer cannot be asked.
   Member member(const std::string& class_name, DISPID name, long object);
+  // The constant value of a class's member, if it has one and the member has been met.
+  std::optional<long> constant(const std::string& class_name, DISPID name);
 
  private:
   Lock lock_;

@@ -3,6 +3,12 @@
 #include "call_error.h"
 #include "values.h"
 
+namespace {
+
+constexpr LONGLONG kReleaseDelay = 50 * 10'000;  // In units of 100 ns.
+
+}  // namespace
+
 Peer& peer() {
   static Peer instance;
   return instance;
@@ -11,7 +17,6 @@ Peer& peer() {
 Peer::~Peer() {
   if (socket_ != INVALID_SOCKET) closesocket(socket_);
   if (reader_) CloseHandle(reader_);
-  if (answered_) CloseHandle(answered_);
 }
 
 bool Peer::connect(unsigned short port) {
@@ -26,9 +31,9 @@ bool Peer::connect(unsigned short port) {
   // Requests are small and each waits for its answer: collecting bytes would cost 40 ms a call.
   const BOOL at_once = TRUE;
   setsockopt(socket_, IPPROTO_TCP, TCP_NODELAY, reinterpret_cast<const char*>(&at_once), sizeof at_once);
-  answered_ = CreateEventW(nullptr, FALSE, FALSE, nullptr);
+  release_timer_ = CreateThreadpoolTimer(send_released, this, nullptr);
   reader_ = CreateThread(nullptr, 0, read_lines, this, 0, nullptr);
-  return answered_ && reader_;
+  return release_timer_ && reader_;
 }
 
 // Reads on a thread of its own, so that a peer that hangs up is noticed while no call is under way.
@@ -39,45 +44,67 @@ DWORD WINAPI Peer::read_lines(void* self) {
   for (int count; (count = recv(peer.socket_, chunk, sizeof chunk, 0)) > 0;) {
     line.append(chunk, count);
     if (line.back() != '\n') continue;  // One request is under way at most, so nothing follows its answer.
-    peer.answer_.swap(line);
+    {
+      Locked locked(peer.lock_);
+      peer.answer_.swap(line);
+    }
     line.clear();
-    SetEvent(peer.answered_);
+    peer.changed_.give();
   }
-  peer.gone_ = true;
-  SetEvent(peer.answered_);
+  {
+    Locked locked(peer.lock_);
+    peer.gone_ = true;
+  }
+  peer.changed_.give();
   return 0;
 }
 
-bool Peer::send_line(const std::string& line) {
-  for (size_t sent = 0; sent < line.size();) {
-    const int count = ::send(socket_, line.data() + sent, static_cast<int>(line.size() - sent), 0);
+bool Peer::send_lines(const std::string& lines) {
+  for (size_t sent = 0; sent < lines.size();) {
+    const int count = send(socket_, lines.data() + sent, static_cast<int>(lines.size() - sent), 0);
     if (count <= 0) return false;
     sent += count;
   }
   return true;
 }
 
-void Peer::send(const Json& request) {
-  if (gone_ || !send_line(request.dump(-1, ' ', true, Json::error_handler_t::replace) + '\n')) {
-    throw CallError{kPeerGone};
-  }
+void Peer::release(long object) {
+  Locked locked(lock_);
+  released_.push_back(object);
+  // A walk releases an object at each step, and its next request is on its way already: a message of its own
+  // would cost as much as that request.
+  if (released_.size() > 1) return;
+  ULARGE_INTEGER due;
+  due.QuadPart = static_cast<ULONGLONG>(-kReleaseDelay);
+  FILETIME time{due.LowPart, due.HighPart};
+  SetThreadpoolTimer(release_timer_, &time, 0, 0);
 }
 
-void Peer::tell(const Json& request) {
-  Locked turn(turn_);
-  send(request);
+// Returns the line that names the released objects, or nothing.
+std::string Peer::take_released() {
+  Locked locked(lock_);
+  if (released_.empty()) return {};
+  const Json request = {{"do", "release"}, {"objects", released_}};
+  released_.clear();
+  return request.dump() + '\n';
+}
+
+void CALLBACK Peer::send_released(PTP_CALLBACK_INSTANCE, void* self, PTP_TIMER) {
+  Peer& peer = *static_cast<Peer*>(self);
+  Locked turn(peer.turn_);
+  // Nobody is left to hear of a failure, and a peer that is gone holds nothing.
+  peer.send_lines(peer.take_released());
 }
 
 Json Peer::ask(const Json& request) {
-  std::string line;
+  std::string line = request.dump(-1, ' ', true, Json::error_handler_t::replace) + '\n';
   {
     Locked turn(turn_);
-    send(request);
-    WaitForSingleObject(answered_, INFINITE);
-    if (gone_) {
-      SetEvent(answered_);
-      throw CallError{kPeerGone};
-    }
+    if (gone_ || !send_lines(take_released() + line)) throw CallError{kPeerGone};
+    line.clear();
+    Locked locked(lock_);
+    while (answer_.empty() && !gone_) changed_.wait(locked);
+    if (answer_.empty()) throw CallError{kPeerGone};
     line.swap(answer_);
   }
   Json answer = Json::parse(line, nullptr, false);

@@ -8,6 +8,7 @@
 #include <atomic>
 #include <nlohmann/json.hpp>
 #include <string>
+#include <vector>
 
 #include "locked.h"
 
@@ -25,22 +26,25 @@ class Peer {
   // Sends one request and returns the "value" of its answer; callers of several threads take turns.
   // Throws CallError with the peer's failure, or with kPeerGone when the peer has hung up.
   Json ask(const Json& request);
-  // Sends one request that has no answer, in its turn. Throws CallError with kPeerGone when the peer has hung
-  // up.
-  void tell(const Json& request);
+  // Tells the peer that nobody holds the object any more: with the next request, or after a short while.
+  void release(long object);
   // Returns when the peer has hung up.
   void wait_until_gone();
 
  private:
   static DWORD WINAPI read_lines(void* self);
-  bool send_line(const std::string& line);
-  void send(const Json& request);
+  bool send_lines(const std::string& lines);
+  static void CALLBACK send_released(PTP_CALLBACK_INSTANCE, void* self, PTP_TIMER);
+  std::string take_released();
 
   SOCKET socket_ = INVALID_SOCKET;
   HANDLE reader_ = nullptr;
-  HANDLE answered_ = nullptr;
-  Lock turn_;
+  Lock turn_;  // Held from a request to its answer.
+  PTP_TIMER release_timer_ = nullptr;
+  Lock lock_;  // Held for the fields below.
+  Signal changed_;
   std::string answer_;
+  std::vector<long> released_;
   std::atomic<bool> gone_ = false;
 };
 

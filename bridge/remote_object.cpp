@@ -39,9 +39,8 @@ HRESULT guarded(EXCEPINFO* failure, Body body) noexcept {
 }  // namespace
 
 RemoteObject::~RemoteObject() {
-  // Nobody is left to hear of a failure, and a peer that is gone holds nothing.
   guarded(nullptr, [&] {
-    peer().tell({{"do", "release"}, {"object", id_}});
+    peer().release(id_);
     return S_OK;
   });
 }
@@ -120,6 +119,9 @@ VARIANT RemoteObject::invoke(DISPID member, WORD flags, const DISPPARAMS& parame
     name = *known;
   }
   const bool is_put = flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF);
+  if (!is_put && parameters.cArgs == 0) {
+    if (const auto constant = names().constant(class_name_, member)) return to_variant(*constant);
+  }
   Json arguments = Json::array();
   Json named = Json::object();
   // Arguments stand last first, the named ones before all others; the new value of a put is a named one.

@@ -10,6 +10,7 @@ import traceback
 
 import uno
 
+from binding import constant
 from handles import Handles, NoSuchMember
 from failures import Disposed, Failure, SERVER_NOT_STARTED
 from outlook.application import Outlook, OutlookSession
@@ -54,7 +55,7 @@ class Peer:
         try:
             request = json.loads(line)
             if request["do"] == "release":
-                return self.release(request["object"])
+                return self.release(request["objects"])
             return {"value": getattr(self, "do_" + request["do"])(request)}
         except Failure as failure:
             if isinstance(failure.__cause__, Disposed):  # One object has ended, or the whole office has.
@@ -91,7 +92,9 @@ class Peer:
     def do_member(self, request):
         item, session = self.handles.find(request["object"])
         parameters = session.parameters(item, request["name"])
-        return None if parameters is None else {"parameters": parameters}
+        if parameters is None:
+            return None
+        return {"parameters": parameters, "constant": constant(item, request["name"])}
 
     def do_call(self, request):
         item, session = self.handles.find(request["object"])
@@ -107,10 +110,11 @@ class Peer:
         item, session = self.handles.find(request["object"])
         return self.handles.to_json(list(session.items(item)), session)
 
-    def release(self, number):
-        """Let go of an object; nobody waits to hear how that went."""
+    def release(self, numbers):
+        """Let go of objects; nobody waits to hear how that went."""
         try:
-            self.handles.release(number)
+            for number in numbers:
+                self.handles.release(number)
         except Exception:
             self.require_office()
             traceback.print_exc()

@@ -10,8 +10,8 @@ from handles import DAY_ZERO, MISSING, NoSuchMember
 
 
 class Published:
-    """Base of all objects of a model. What begins with a capital is published, in any case of its letters;
-    DEFAULT names the member that stands for the object itself."""
+    """Base of all objects of a model. What begins with a capital is published, in any case of its letters: a
+    function, a property, or a constant number. DEFAULT names the member that stands for the object itself."""
 
     DEFAULT = None
 
@@ -33,16 +33,22 @@ def parameters(item, name):
         member = type(item).published(name)
     except NoSuchMember:
         return None
-    return [] if isinstance(member, property) else list(inspect.signature(member).parameters)[1:]
+    return list(inspect.signature(member).parameters)[1:] if inspect.isfunction(member) else []
+
+
+def constant(item, name):
+    """Return the value of a member that all objects of the class share for ever, or None where it may change."""
+    member = type(item).published(name) if isinstance(item, Published) else None
+    return member if isinstance(member, int) else None
 
 
 def call(item, name, arguments, named):
     """Read a property or call a method. What follows a property in parentheses goes to the default member of
     its value."""
     member = type(item).published(name)
-    if not isinstance(member, property):
+    if inspect.isfunction(member):
         return member(item, **_bound(member, arguments, named))
-    value = member.fget(item)
+    value = member.fget(item) if isinstance(member, property) else member
     if not arguments and not named:
         return value
     if not isinstance(value, Published):

@@ -94,9 +94,7 @@ class Application(Published):
     def Version(self) -> str:
         return "0.0 (stand-in)"
 
-    @property
-    def Class(self) -> int:
-        return 0
+    Class = 0
 
     @property
     def Session(self):
@@ -163,9 +161,7 @@ class MAPIFolder(Published):
     def Name(self) -> str:
         return self._shelf.name
 
-    @property
-    def Class(self) -> int:
-        return 2
+    Class = 2
 
     @property
     def DefaultItemType(self) -> int:

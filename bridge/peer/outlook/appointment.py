@@ -20,7 +20,7 @@ A_DAY = 24 * 60
 @fields(bool, True, "ReminderSet")
 @fields(bool, False, "ResponseRequested")
 class AppointmentItem(FullItem):
-    item_class = 26
+    Class = 26
     message_class = "IPM.Appointment"
     home = 9
 

@@ -38,7 +38,7 @@ def _mailing_part(part):
 class ContactItem(FullItem):
     """Addresses are kept as they are given, and not taken apart or put together."""
 
-    item_class = 40
+    Class = 40
     message_class = "IPM.Contact"
     home = 10
 

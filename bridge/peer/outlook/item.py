@@ -27,7 +27,7 @@ class Item(Published):
     """A view of a record: it keeps its changes to itself until it is saved."""
 
     DEFAULT = "Subject"
-    item_class = 0
+    Class = 0
     message_class = "IPM"
     home = 6  # The folder of a new item.
 
@@ -63,10 +63,6 @@ class Item(Published):
     @property
     def files(self):
         return self.value("files", ())
-
-    @property
-    def Class(self) -> int:
-        return self.record.kind.item_class
 
     @property
     def Application(self):
@@ -136,7 +132,7 @@ class Item(Published):
         lines = ["Written by a stand-in for Outlook; this is a text, not a file in Outlook's own format."]
         for name in sorted(each for each in dir(type(self)) if each[0].isupper() and each != "DEFAULT"):
             member = type(self).published(name)
-            value = member.fget(self) if isinstance(member, property) else None
+            value = member.fget(self) if isinstance(member, property) else member
             if isinstance(value, (str, int, datetime.datetime)) and value not in ("", NO_DATE):
                 lines.append(f"{name}: {value}")
         lines += [f"Attachment: {file.name}, {len(file.data)} bytes" for file in self.files]

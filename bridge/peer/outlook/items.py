@@ -3,7 +3,7 @@
 import datetime
 import inspect
 
-from binding import converted
+from binding import call, converted
 from handles import NOTHING, NoSuchMember
 from outlook.filters import Condition
 from outlook.kinds import KINDS, of_message_class, of_type
@@ -92,7 +92,7 @@ def kind_of(name):
             member = kind.published(name)
         except NoSuchMember:
             continue
-        result = isinstance(member, property) and inspect.signature(member.fget).return_annotation
+        result = inspect.signature(member.fget).return_annotation if isinstance(member, property) else type(member)
         if result in (str, int, bool, datetime.datetime):
             return result
     raise OutlookError(UNKNOWN_PROPERTY, name)
@@ -101,7 +101,7 @@ def kind_of(name):
 def value_of(item, name):
     """Return an item's property, or None where this kind of item does not have it."""
     try:
-        return item.published(name).fget(item)
+        return call(item, name, [], {})
     except NoSuchMember:
         return None
 

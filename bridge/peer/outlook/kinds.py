@@ -13,7 +13,7 @@ from outlook.task import TaskItem
 @fields(int, 166, "Height", within=range(1, 2**31))
 @fields(int, 80, "Left Top")
 class NoteItem(Item):
-    item_class = 44
+    Class = 44
     message_class = "IPM.StickyNote"
     home = 12
 
@@ -29,7 +29,7 @@ class OtherItem(FullItem):
 
 
 def _other(name, item_class, message_class, home):
-    values = {"item_class": item_class, "message_class": message_class, "home": home}
+    values = {"Class": item_class, "message_class": message_class, "home": home}
     return type(name, (OtherItem,), values)
 
 

@@ -64,7 +64,7 @@ def _named(kind):
 @fields(bool, False, "Sent", read_only=True)
 @fields(bool, False, "ReadReceiptRequested")
 class MailItem(FullItem):
-    item_class = 43
+    Class = 43
     message_class = "IPM.Note"
     home = 16
 

@@ -50,9 +50,7 @@ class RecurrencePattern(Published):
     def change(self, **values):
         self._item.change("series", dataclasses.replace(self.series, **values))
 
-    @property
-    def Class(self) -> int:
-        return 28
+    Class = 28
 
     @property
     def Parent(self):

@@ -15,7 +15,7 @@ ALL_DONE = 100
 @fields(datetime.datetime, NO_DATE, "ReminderTime")
 @fields(datetime.datetime, NO_DATE, "DateCompleted", read_only=True)
 class TaskItem(FullItem):
-    item_class = 48
+    Class = 48
     message_class = "IPM.Task"
     home = 13
 
