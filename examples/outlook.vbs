@@ -56,22 +56,23 @@ End Sub
 
 Sub Appointment
   Create "Appointment"
-  SetProperties "Appointment", Array("Subject", "Stocktaking", "Start", "2026-11-23 14:30:00", "Duration", "90", "Location", "Store", _
-    "ReminderSet", "False", "Sensitivity", "2")
-  SaveExportDelete "Appointment", Array("Subject", "StartDate", "StartTime", "EndTime", "Location", "ReminderSet", "Sensitivity", "Folder")
+  SetProperties "Appointment", Array("Subject", "Stocktaking", "Start", "2026-11-23 14:30:00", "Duration", "90", _
+    "Location", "Store", "ReminderSet", "False", "Sensitivity", "2")
+  SaveExportDelete "Appointment", Array("Subject", "StartDate", "StartTime", "EndTime", "Location", "ReminderSet", _
+    "Sensitivity", "Folder")
 End Sub
 
 Sub Contact
   Create "Contact"
-  SetProperties "Contact", Array("FullName", "Ms. Clara Weber", "CompanyName", "Weber & Sons", "Email1Address", "clara@weber.example", _
-    "BusinessTelephoneNumber", "+49 30 1234", "BusinessAddressCity", "Berlin")
+  SetProperties "Contact", Array("FullName", "Ms. Clara Weber", "CompanyName", "Weber & Sons", _
+    "Email1Address", "clara@weber.example", "BusinessTelephoneNumber", "+49 30 1234", "BusinessAddressCity", "Berlin")
   SaveExportDelete "Contact", Array("FirstName", "CompanyName", "AllEmailAddresses", "BusinessAddressCity", "Folder")
 End Sub
 
 Sub Task
   Create "Task"
-  SetProperties "Task", Array("Subject", "Order paper", "StartDate", "2026-11-23", "DueDate", "2026-11-27", "PercentComplete", "40", _
-    "Priority", "2")
+  SetProperties "Task", Array("Subject", "Order paper", "StartDate", "2026-11-23", "DueDate", "2026-11-27", _
+    "PercentComplete", "40", "Priority", "2")
   SaveExportDelete "Task", Array("Subject", "StartDate", "DueDate", "PercentComplete", "Status", "Priority", "Folder")
 End Sub
 
@@ -133,13 +134,14 @@ Sub WeeklySeries
 
   Need outlook.GetItem("Appointment", entry_id), "the series is missing"
   Need outlook.GetRecurrencePattern, "there is no pattern any more"
-  WScript.Echo "Exceptions: " & outlook.GetRecurrenceProperty("Exception Count") & ", " & outlook.GetRecurrenceProperty("Exception List")
+  WScript.Echo "Exceptions: " & outlook.GetRecurrenceProperty("Exception Count") & ", " & _
+    outlook.GetRecurrenceProperty("Exception List")
   Need outlook.GetAppointmentInstance("1997-10-02 09:00:00"), "the sixth meeting is missing"
-  WScript.Echo "Sixth meeting: " & outlook.GetAppointmentProperty("StartDate") & " " & outlook.GetAppointmentProperty("StartTime") & _
-    ", recurrence state " & outlook.GetAppointmentProperty("RecurrenceState")
-  WScript.Echo outlook.GetExceptionProperty(1, "Get Appointment") & ": planned for " & outlook.GetExceptionProperty(1, "OriginalDate") & _
-    ", now " & outlook.GetAppointmentProperty("StartDate") & " " & outlook.GetAppointmentProperty("StartTime") & " in the " & _
-    outlook.GetAppointmentProperty("Location")
+  WScript.Echo "Sixth meeting: " & outlook.GetAppointmentProperty("StartDate") & " " & _
+    outlook.GetAppointmentProperty("StartTime") & ", recurrence state " & outlook.GetAppointmentProperty("RecurrenceState")
+  WScript.Echo outlook.GetExceptionProperty(1, "Get Appointment") & ": planned for " & _
+    outlook.GetExceptionProperty(1, "OriginalDate") & ", now " & outlook.GetAppointmentProperty("StartDate") & " " & _
+    outlook.GetAppointmentProperty("StartTime") & " in the " & outlook.GetAppointmentProperty("Location")
 End Sub
 
 Sub Create(entry_type)

@@ -38,8 +38,8 @@ class OfficeGone(Exception):
 
 
 class Peer:
-    """Answers requests; every created class is a session with objects of its own. Without an office's context there
-    is only what needs none."""
+    """Answers requests; every created class is a session with objects of its own. Without an office's context
+    there is only what needs none."""
 
     def __init__(self, context, paths, pdf_folder):
         self.context = context
@@ -50,8 +50,8 @@ class Peer:
         self.handles = Handles()
 
     def answer(self, line):
-        """Return the answer to one request line, None for one that is told and not asked; raises OfficeGone and
-        nothing else."""
+        """Return the answer to one request line, None for one that wants none; raises OfficeGone and nothing
+        else."""
         try:
             request = json.loads(line)
             if request["do"] == "release":

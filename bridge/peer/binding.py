@@ -37,7 +37,7 @@ def parameters(item, name):
 
 
 def constant(item, name):
-    """Return the value of a member that all objects of the class share for ever, or None where it may change."""
+    """Return the value of a member that all objects of the class share for ever, None where it may differ."""
     member = type(item).published(name) if isinstance(item, Published) else None
     return member if isinstance(member, int) else None
 
@@ -111,7 +111,7 @@ def converted(value, kind):
 
 
 def _date(value):
-    """Return a date, a number of days or a date's text, month first, as a date and time without fractions of a second."""
+    """Return a date, a number of days or a date's text, month first, as a date and time in full seconds."""
     if isinstance(value, str):
         return dateutil.parser.parse(value).replace(tzinfo=None, microsecond=0)
     if not isinstance(value, datetime.datetime):

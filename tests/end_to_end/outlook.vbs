@@ -18,8 +18,9 @@ For Each item In mapi.GetDefaultFolder(deleted_items).Items
   WScript.Echo item.Class & "|" & item.Subject
 Next
 With mapi.GetDefaultFolder(deleted_items).Items
-  WScript.Echo .Item(1).Start & "|" & .Item(1).End & "|" & .Item(1).Sensitivity & .Item(1).ReminderSet & "|" & .Item(2).CompanyName & "|" & _
-    .Item(3).DueDate & "|" & .Item(3).Status & .Item(3).Importance & "|" & .Item(4).Categories & .Item(4).Width
+  WScript.Echo .Item(1).Start & "|" & .Item(1).End & "|" & .Item(1).Sensitivity & .Item(1).ReminderSet & "|" & _
+    .Item(2).CompanyName & "|" & .Item(3).DueDate & "|" & .Item(3).Status & .Item(3).Importance & "|" & _
+    .Item(4).Categories & .Item(4).Width
 End With
 
 ' Each day of the series' time is asked for a meeting.

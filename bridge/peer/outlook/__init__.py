@@ -1,1 +1,1 @@
-"""A stand-in for Outlook: the part of its object model that the tests and the demo need, over a mailbox in memory."""
+"""A stand-in for Outlook: what the tests and the demo need of its object model, over a mailbox in memory."""

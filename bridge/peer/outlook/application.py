@@ -132,7 +132,9 @@ class NameSpace(Published):
     def Type(self) -> str:
         return "MAPI"
 
-    def Logon(self, Profile: str = "", Password: str = "", ShowDialog: bool = False, NewSession: bool = False):
+    def Logon(
+        self, Profile: str = "", Password: str = "", ShowDialog: bool = False, NewSession: bool = False
+    ):
         """A profile is the path of a mailbox file, which is read for a new session only."""
         if Profile and NewSession:
             self._outlook.log_on(Profile)

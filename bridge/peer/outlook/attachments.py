@@ -84,7 +84,8 @@ class Attachments(Collection):
     def Add(self, Source: str, Type: int = BY_VALUE, Position: int = 0, DisplayName: str = ""):
         if Type != BY_VALUE:
             raise OutlookError(NOT_IN_THE_STAND_IN)
-        file = File(ntpath.basename(Source), read_file(self._item.outlook.paths, Source), DisplayName, Position)
+        data = read_file(self._item.outlook.paths, Source)
+        file = File(ntpath.basename(Source), data, DisplayName, Position)
         self._item.change("files", (*self._item.files, file))
         return Attachment(self._item, file)
 

@@ -7,6 +7,7 @@ from outlook.model import NO_DATE, fields
 
 TITLES = ("Mr.", "Mrs.", "Ms.", "Miss", "Dr.", "Prof.")
 NAME_PARTS = ("Title", "FirstName", "MiddleName", "LastName", "Suffix")
+TELEPHONES = "Assistant Business Business2 Car CompanyMain Home Home2 Mobile Other Primary Radio".split()
 ADDRESSES = {1: "Home", 2: "Business", 3: "Other"}  # OlMailingAddress; 0 is none.
 ADDRESS_PARTS = ("", "City", "Country", "PostalCode", "State", "Street")
 
@@ -27,10 +28,9 @@ def _mailing_part(part):
 
 
 @fields(str, "", " ".join(f"{place}Address{part}" for place in ADDRESSES.values() for part in ADDRESS_PARTS))
-@fields(str, "", "AssistantTelephoneNumber Business2TelephoneNumber BusinessFaxNumber BusinessTelephoneNumber")
-@fields(str, "", "CarTelephoneNumber CompanyMainTelephoneNumber Home2TelephoneNumber HomeFaxNumber HomeTelephoneNumber")
-@fields(str, "", "MobileTelephoneNumber OtherFaxNumber OtherTelephoneNumber PagerNumber PrimaryTelephoneNumber")
-@fields(str, "", "RadioTelephoneNumber Email1Address Email2Address Email3Address BusinessHomePage WebPage")
+@fields(str, "", " ".join(f"{place}TelephoneNumber" for place in TELEPHONES))
+@fields(str, "", "BusinessFaxNumber HomeFaxNumber OtherFaxNumber PagerNumber")
+@fields(str, "", "Email1Address Email2Address Email3Address BusinessHomePage WebPage")
 @fields(str, "", "CompanyName Department FileAs GovernmentIDNumber JobTitle NickName")
 @fields(str, "", " ".join(NAME_PARTS))
 @fields(int, 0, "SelectedMailingAddress", within=range(4))

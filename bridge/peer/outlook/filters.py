@@ -9,8 +9,8 @@ from failures import Failure
 from outlook.model import CANNOT_PARSE, OutlookError
 
 TOKEN = re.compile(
-    r"""\s*(?:\[(?P<name>[^\]]+)\]|'(?P<single>(?:[^']|'')*)'|"(?P<double>(?:[^"]|"")*)"|(?P<sign><>|<=|>=|[<>=()])"""
-    r"""|(?P<number>[+-]?\d+(?:\.\d+)?)|(?P<word>[A-Za-z]+))"""
+    r"""\s*(?:\[(?P<name>[^\]]+)\]|'(?P<single>(?:[^']|'')*)'|"(?P<double>(?:[^"]|"")*)\""""
+    r"""|(?P<sign><>|<=|>=|[<>=()])|(?P<number>[+-]?\d+(?:\.\d+)?)|(?P<word>[A-Za-z]+))"""
 )
 COMPARISONS = {
     "=": operator.eq,
@@ -24,7 +24,8 @@ FLAGS = {"true": True, "yes": True, "on": True, "false": False, "no": False, "of
 
 
 class Condition:
-    """A condition, read as `or` of `and` of `not`; kind_of gives a property's kind or fails, read_of its value or None."""
+    """A condition, read as `or` of `and` of `not`. Its functions give a property's kind, or fail, and an item's
+    value, or None."""
 
     def __init__(self, text, kind_of, read_of):
         self._text = text

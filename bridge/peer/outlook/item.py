@@ -42,11 +42,14 @@ class Item(Published):
         """Return a new item that nobody has saved yet."""
         return cls(outlook, Record(cls, shelf or outlook.store.shelf(cls.home), {}))
 
-    @property
-    def record(self):
-        """The record, which fails once this item, or the record, is gone."""
+    def require(self):
+        """Fail once this item, or its record, is gone."""
         if self._is_gone or self._record.is_removed:
             raise OutlookError(MOVED_OR_DELETED)
+
+    @property
+    def record(self):
+        self.require()
         return self._record
 
     def value(self, name, initial=None):
@@ -57,7 +60,7 @@ class Item(Published):
         return self.record.values | self._unsaved
 
     def change(self, name, value):
-        self.record  # noqa: B018 - fails where the item is gone
+        self.require()
         self._unsaved[name] = value
 
     @property
@@ -95,7 +98,8 @@ class Item(Published):
     @property
     def Size(self) -> int:
         values = self.record.values
-        return sum(len(str(value)) for value in values.values()) + sum(len(file.data) for file in values.get("files", ()))
+        files = sum(len(file.data) for file in values.get("files", ()))
+        return files + sum(len(str(value)) for value in values.values())
 
     @property
     def Saved(self) -> bool:
@@ -110,7 +114,7 @@ class Item(Published):
         self._is_gone = True
 
     def Display(self, Modal: bool = False):
-        self.record  # noqa: B018 - fails where the item is gone
+        self.require()
         self.outlook.show(self)
 
     def Close(self, SaveMode: int):
@@ -148,5 +152,5 @@ class FullItem(Item):
 
     @property
     def Attachments(self):
-        self.record  # noqa: B018 - fails where the item is gone
+        self.require()
         return Attachments(self)

@@ -32,7 +32,9 @@ class Items(Collection):
                 self._records = [record for record in self._records if condition.holds(self._view(record))]
             if self._order:
                 name, kind, descending = self._order
-                self._records.sort(key=lambda record: _rank(self._view(record), name, kind), reverse=descending)
+                self._records.sort(
+                    key=lambda record: _rank(self._view(record), name, kind), reverse=descending
+                )
         return self._records
 
     def _view(self, record):
@@ -86,13 +88,14 @@ class Items(Collection):
 
 
 def kind_of(name):
-    """Return the kind of an item's property by that name; it fails where no kind of item has one that can be compared."""
+    """Return the kind of an item's property; it fails where no item has one that can be compared."""
     for kind in KINDS:
         try:
             member = kind.published(name)
         except NoSuchMember:
             continue
-        result = inspect.signature(member.fget).return_annotation if isinstance(member, property) else type(member)
+        is_property = isinstance(member, property)
+        result = inspect.signature(member.fget).return_annotation if is_property else type(member)
         if result in (str, int, bool, datetime.datetime):
             return result
     raise OutlookError(UNKNOWN_PROPERTY, name)

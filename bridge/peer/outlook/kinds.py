@@ -65,7 +65,7 @@ def of_type(number):
 
 
 def of_message_class(text):
-    """Return the kind that a message class means: "IPM.Note.Order" is a mail, "REPORT.IPM.Note.NDR" a report."""
+    """Return the kind of a message class: "IPM.Note.Order" is a mail, "REPORT.IPM.Note.NDR" a report."""
     for kind in KINDS:
         own = kind.message_class.lower()
         if text.lower() == own or text.lower().startswith(own + "."):

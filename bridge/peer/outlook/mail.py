@@ -78,7 +78,7 @@ class MailItem(FullItem):
 
     @property
     def Recipients(self):
-        self.record  # noqa: B018 - fails where the item is gone
+        self.require()
         return Recipients(self)
 
     @property
@@ -113,7 +113,8 @@ class MailItem(FullItem):
         if not self.recipients:
             raise OutlookError(NO_RECIPIENT)
         now = datetime.datetime.now().replace(microsecond=0)
-        for name, value in (("Sent", True), ("SentOn", now), ("ReceivedTime", now), ("SenderName", "Stand-in")):
+        sent = {"Sent": True, "SentOn": now, "ReceivedTime": now, "SenderName": "Stand-in"}
+        for name, value in sent.items():
             self.change(name, value)
         self.Save()
         self.record.move(SENT_ITEMS)

@@ -17,9 +17,10 @@ FOLDER_NUMBERS = {name: number for number, (name, _) in FOLDERS.items()}
 def read_mailbox(outlook, data):
     """Return a store with what the JSON text says; ValueError or KeyError where it says nothing sensible.
 
-    The text is a list of groups, {"rounds": NUMBER, "items": [{"folder": "Inbox", "class": "IPM.Note", PROPERTY: VALUE,
-    ..., "attachments": [{"name": NAME, "text" or "base64": DATA}, ...]}, ...]}. A group's items come one after another, a
-    minute apart, as many rounds as are asked for; the first "#" of a text is the number of the round.
+    The text is a list of groups, {"rounds": NUMBER, "items": [{"folder": "Inbox", "class": "IPM.Note",
+    PROPERTY: VALUE, ..., "attachments": [{"name": NAME, "text" or "base64": DATA}, ...]}, ...]}. A group's
+    items come one after another, a minute apart, as many rounds as are asked for; the first "#" of a text is the
+    number of the round.
     """
     store = Store()
     time = FIRST_TIME
@@ -36,7 +37,7 @@ def read_mailbox(outlook, data):
 
 
 def _row(outlook, row):
-    """Return a row's kind, folder and values; its properties go through an item, which checks and completes them."""
+    """Return a row's kind, folder and values; its properties go through an item, which checks them."""
     kind = of_message_class(row["class"])
     item = kind.new(outlook)
     own = {"folder", "class", "attachments"}

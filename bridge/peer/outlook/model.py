@@ -1,4 +1,4 @@
-"""What all objects of the stand-in share: how they fail, collections, and properties that are kept with an item."""
+"""What all objects of the stand-in share: failures, collections, and properties kept with an item."""
 
 import datetime
 
@@ -13,7 +13,8 @@ END_BEFORE_START = (0x80020009, "The end date you entered occurs before the star
 FILE_NOT_FOUND = (0x80070002, "Cannot find this file. Verify the path and file name are correct.")
 INSTANCE_GONE = (
     0x80020009,
-    "You changed one of the recurrences of this item, and this instance no longer exists. Close any open items and try again.",
+    "You changed one of the recurrences of this item, and this instance no longer exists. "
+    "Close any open items and try again.",
 )
 MOVED_OR_DELETED = (0x8004010A, "The item has been moved or deleted.")
 NO_RECIPIENT = (0x80004005, "There must be at least one name or contact group in the To, Cc, or Bcc box.")
@@ -62,8 +63,8 @@ class Collection(Published):
 
 
 def fields(kind, initial, names, within=None, read_only=False):
-    """Return a class decorator that publishes properties kept with the item: of one kind, with one initial value and,
-    where they can be written, with the values that are taken."""
+    """Return a class decorator that publishes properties kept with the item: of one kind, with one initial
+    value and, where they can be written, with the values that are taken."""
 
     def publish(cls):
         for name in names.split():

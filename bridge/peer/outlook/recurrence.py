@@ -15,7 +15,8 @@ A_DAY = 24 * 60
 
 
 def setting(field, allowed, types=tuple(FREQUENCIES)):
-    """Return a property for a number of the series; it is 0, and cannot be written, where the type has no use for it."""
+    """Return a property for a number of the series; where the type has no use for it, it is 0 and cannot be
+    written."""
 
     def read(self) -> int:
         return getattr(self.series, field) if self.series.type in types else 0

@@ -31,7 +31,7 @@ class Record:
         self.values = values
         self.entry_id = ""
         self.is_removed = False
-        self.changes = {}  # By the original start of an occurrence: its own record, or None where it was deleted.
+        self.changes = {}  # By an occurrence's original start: its own record, or None where it was deleted.
 
     def keep(self, values):
         """Store new values, for the first time or again."""
@@ -90,7 +90,7 @@ class Occurrence(Record):
 
 
 class Shelf:
-    """The records of one folder; the version changes with every change, so that views know when to look again."""
+    """The records of one folder; every change changes the version, so that views know when to look again."""
 
     def __init__(self, store, number):
         self.store = store
