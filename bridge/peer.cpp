@@ -5,7 +5,7 @@
 
 namespace {
 
-constexpr LONGLONG kReleaseDelay = 50 * 10'000;  // In units of 100 ns.
+constexpr LONGLONG kReleaseDelay = 50LL * 10'000;  // In units of 100 ns.
 
 }  // namespace
 
