@@ -36,11 +36,11 @@ class Formats : public PropertyTest, public testing::WithParamInterface<Country>
 };
 
 TEST_P(Formats, AreThoseOfTheUserInWhatIsRead) {
-  outlook_.answers["Appointment.Duration"] = {1234567};
-  outlook_.answers["Exceptions.Count"] = {1};
-  outlook_.answers["Exceptions.Item"] = {.object = "Exception"};
-  outlook_.answers["Exception.Deleted"] = {true};
-  outlook_.answers["Exception.OriginalDate"] = outlook_.answers["Pattern.EndTime"] = {march_5(14, 30)};
+  office_.answers["Appointment.Duration"] = {1234567};
+  office_.answers["Exceptions.Count"] = {1};
+  office_.answers["Exceptions.Item"] = {.object = "Exception"};
+  office_.answers["Exception.Deleted"] = {true};
+  office_.answers["Exception.OriginalDate"] = office_.answers["Pattern.EndTime"] = {march_5(14, 30)};
   expect(L"GetAppointmentProperty", {L"Start"}, text_result(country_.moment));
   expect(L"GetAppointmentProperty", {L"StartDate"}, text_result(country_.date));
   expect(L"GetAppointmentProperty", {L"StartTime"}, text_result(country_.time));
@@ -48,7 +48,7 @@ TEST_P(Formats, AreThoseOfTheUserInWhatIsRead) {
   expect(L"GetRecurrenceProperty", {L"EndTime"}, text_result(country_.moment));
   expect(L"GetRecurrenceProperty", {L"Exception List"}, text_result("-" + country_.date));
   expect(L"GetExceptionProperty", {1, L"Deleted"}, text_result("True"));
-  outlook_.answers["Appointment.Start"] = {march_5(0)};
+  office_.answers["Appointment.Start"] = {march_5(0)};
   expect(L"GetAppointmentProperty", {L"Start"}, text_result(country_.day));
   expect(L"SetRecurrenceProperty", {L"RecurrenceType", L"4"}, text_result(""),
          "[Lunch " + country_.day + "] The RecurranceType is invalid 4 it will use a default value of Daily");

@@ -97,7 +97,7 @@ class Members : public OutlookTest, public testing::WithParamInterface<Row> {
  protected:
   // Makes a control ready, and everything that it fetches from then on new.
   void make_row_ready() {
-    outlook_.answers = usual_;
+    office_.answers = usual_;
     make_ready();
     kept_ = held();
     auto answers = row_.answers;
@@ -106,8 +106,8 @@ class Members : public OutlookTest, public testing::WithParamInterface<Row> {
       answers[std::string(items) + ".Items"] = {.object = "Fresh"};
     for (const auto* type : {"0", "1", "2", "3", "5"})
       answers["Application.CreateItem(i4 " + std::string(type) + ")"] = {.object = "Made"};
-    answers.merge(outlook_.answers);
-    outlook_.answers = answers;
+    answers.merge(office_.answers);
+    office_.answers = answers;
   }
   // What is held with the row's change, which goes as far as `last`.
   std::string held_after(const std::string& last) const {
@@ -127,7 +127,7 @@ class Members : public OutlookTest, public testing::WithParamInterface<Row> {
   }
 
   const Row& row_ = GetParam();
-  const std::map<std::string, Answer> usual_ = outlook_.answers;
+  const std::map<std::string, Answer> usual_ = office_.answers;
   const std::string failed_ = row_.result.starts_with("i2") ? "i2 0" : "bool 0";
   // The steps that the message box of SaveEmailAttachment takes.
   const std::string facts_ = row_.steps.find(".FileName") == std::string::npos
@@ -153,12 +153,12 @@ TEST_P(Members, StopAtTheStepThatFails) {
     const std::string done = row_.steps.substr(0, end);
     end = row_.steps.find(" | ", end + 1);
     const std::string reached = row_.steps.substr(0, end), shown = message("No such member.", reached);
-    outlook_.fail_at = step;
+    office_.fail_at = step;
     expect(row_.member, row_.arguments, failed_, shown);
     EXPECT_EQ(log(), reached + facts_);
     EXPECT_EQ(errors_at_boxes_, std::vector<std::string>(shown.empty() ? 0 : 1, unset)) << "box first";
     EXPECT_EQ(last_error(), recorded(5941, "No such member."));
-    outlook_.fail_at = 0;
+    office_.fail_at = 0;
     // The collection is replaced as soon as it is fetched, and again as soon as it is restricted.
     const bool fetched = done.find(".Items") != done.npos, restricted = done.find(".Restrict") != done.npos;
     EXPECT_EQ(held(), held_after(restricted ? "Chosen" : fetched ? "Fresh" : ""));

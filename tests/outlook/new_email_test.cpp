@@ -53,7 +53,7 @@ TEST_F(NewEmail, TakesItsStepsAndUsesTheAttachmentsUp) {
   compose(true, true, none);
   EXPECT_EQ(log(), made + "put Email.HTMLBody=bstr \"<p>\"" + addressed + sent);
   EXPECT_EQ(last_error(), recorded(0, ""));
-  EXPECT_EQ(outlook_.live, 0);
+  EXPECT_EQ(office_.live, 0);
 }
 
 TEST_F(NewEmail, GoesOnAfterTheStatementThatFails) {
@@ -79,14 +79,14 @@ TEST_F(NewEmail, GoesOnAfterTheStatementThatFails) {
         last = !lost ? no_member : on_application ? no_object : not_set;
         boxes += (boxes.empty() ? "New Email " : " | New Email ") + last;
       }
-      outlook_.fail_at = failing + 1;
+      office_.fail_at = failing + 1;
       _variant_t attachment = L"a;b";
       compose(false, send, attachment, boxes);
       EXPECT_EQ(log(), left);
       EXPECT_EQ(errors_at_boxes_.at(0), unset) << "box first";
       EXPECT_EQ(last_error(), recorded(numbers.at(last), last));
       EXPECT_EQ(describe(attachment), "bstr \"b\"");
-      outlook_.fail_at = 0;
+      office_.fail_at = 0;
       EXPECT_EQ(held(), usual);
     }
   }

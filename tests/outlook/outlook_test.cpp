@@ -2,9 +2,6 @@
 
 #include <utility>
 
-#include "support/late_call.h"
-#include "support/text.h"
-
 static OutlookTest* running;
 
 OutlookTest::OutlookTest() {
@@ -12,12 +9,7 @@ OutlookTest::OutlookTest() {
   hook_ = SetWindowsHookExW(WH_CBT, window_event, nullptr, GetCurrentThreadId());
 }
 
-OutlookTest::~OutlookTest() {
-  UnhookWindowsHookEx(hook_);
-  control_.Reset();
-  EXPECT_EQ(outlook_.live, 0) << "objects of the mail client are still held";
-  EXPECT_TRUE(boxes_.take().empty());
-}
+OutlookTest::~OutlookTest() { UnhookWindowsHookEx(hook_); }
 
 LRESULT CALLBACK OutlookTest::window_event(int event, WPARAM window, LPARAM details) {
   wchar_t kind[8] = {};
@@ -30,8 +22,7 @@ LRESULT CALLBACK OutlookTest::window_event(int event, WPARAM window, LPARAM deta
 }
 
 void OutlookTest::make_ready() {
-  outlook_.fail_at = 0;
-  control_ = outside::create(outside::classes[1]);
+  renew();
   expect(L"StopOutlook", {true}, "bool 0");
   expect(L"StartOutlook", {}, "bool -1");
   for (const auto& kind : item_kinds) {
@@ -41,21 +32,10 @@ void OutlookTest::make_ready() {
   log();
 }
 
-std::string OutlookTest::call(const wchar_t* member, const Arguments& arguments) {
-  return late_call(control_.Get(), member, arguments);
-}
-
 void OutlookTest::expect(const wchar_t* member, const Arguments& arguments, const std::string& result,
-                         const std::string& shown) {
+                         const std::string& boxes) {
   errors_at_boxes_.clear();
-  EXPECT_EQ(call(member, arguments), result) << utf8(member);
-  std::string seen;
-  for (const auto& box : boxes_.take()) {
-    seen += seen.empty() ? "" : " | ";
-    seen += box.title == "ZORBOffice" ? box.text : "[" + box.title + "] " + box.text;
-    EXPECT_EQ(box.buttons, std::vector<std::string>{"OK"});
-  }
-  EXPECT_EQ(seen, shown) << utf8(member);
+  ControlTest::expect(member, arguments, result, boxes);
 }
 
 std::string OutlookTest::last_error() {
@@ -71,15 +51,9 @@ std::string OutlookTest::held() {
   for (const auto& kind : item_kinds)
     for (const auto* member : {L"SaveItem", L"GetItemCount"}) call(member, {kind.word});
   std::string names = "|";
-  for (const auto& line : std::exchange(outlook_.log, {}))
+  for (const auto& line : std::exchange(office_.log, {}))
     names += line.substr(line.find(' ') + 1, line.find('.') - line.find(' ') - 1) + "|";
   return names;
-}
-
-std::string OutlookTest::log() {
-  std::string all;
-  for (const auto& line : std::exchange(outlook_.log, {})) all += (all.empty() ? "" : " | ") + line;
-  return all;
 }
 
 _variant_t OutlookTest::text(std::wstring_view text) {

@@ -1,41 +1,30 @@
 // ZORBOutlook of the built library over the recording mail client, as each test of this folder drives it.
 #pragma once
 
-#include "outside/library.h"
+#include "support/control_test.h"
 #include "support/fake_outlook.h"
-#include "support/message_boxes.h"
 
-class OutlookTest : public testing::Test {
+class OutlookTest : public ControlTest<FakeOutlook, 1> {
  protected:
-  using Arguments = std::vector<_variant_t>;
-
   OutlookTest();
   ~OutlookTest();
 
   // Replaces the control by a new one that has recorded `unset`, started a session, filled the collection of
   // every kind and created a current item of every kind.
   void make_ready();
-  // Calls `member` late bound and returns its result as the log shows values, or "raised NUMBER DESCRIPTION".
-  std::string call(const wchar_t* member, const Arguments& arguments = {});
-  // Calls `member`, which must give `result` and show the message boxes `shown`, separated by " | ", "" for
-  // none. A title that is not the library's stands in brackets before.
+  // Forgets what was seen at earlier boxes, and does what ControlTest's does.
   void expect(const wchar_t* member, const Arguments& arguments, const std::string& result,
-              const std::string& shown = "");
+              const std::string& boxes = "");
   // The last error as the host reads it, and as it must read one of that number and description.
   std::string last_error();
   static std::string recorded(int number, const std::string& description);
   // Current item and collection of every kind, by their objects' names: "|Appointment|AppointmentItems|…|".
   std::string held();
-  // The log since the last call, steps separated by " | ".
-  std::string log();
   // A string, which may hold nulls; the null string for {}.
   static _variant_t text(std::wstring_view text);
 
   const std::string not_set = "Object variable or With block variable not set", unset = recorded(91, not_set);
 
-  FakeOutlook outlook_;
-  MessageBoxes boxes_;
-  Microsoft::WRL::ComPtr<IDispatch> control_ = outside::create(outside::classes[1]);
   // The last error while each box of the last expect came up, and what the host does then.
   std::vector<std::string> errors_at_boxes_;
   std::function<void()> at_box_;

@@ -233,7 +233,7 @@ TEST_P(Properties, ConvertEveryValueOfEveryKey) {
       if (fails && !row.leads) continue;
       std::string joined;
       for (const auto& member : row.members) {
-        outlook_.answers[member] = {named ? _variant_t(_bstr_t(given) + _bstr_t(value_of(member))) : given};
+        office_.answers[member] = {named ? _variant_t(_bstr_t(given) + _bstr_t(value_of(member))) : given};
         joined += (&member == &row.members[0] ? "" : row.between) + becomes + (named ? member : "");
       }
       const auto first = row.steps.substr(0, row.steps.find(" | ", row.steps.find(row.members[0])));
@@ -254,12 +254,12 @@ TEST_P(Properties, FailAtEveryStep) {
   make_current();
   for (const auto& row : rows_) {
     const auto& [given, becomes, warning] = samples_.at(row.form)[0];
-    for (const auto& member : row.members) outlook_.answers[member] = {given};
+    for (const auto& member : row.members) office_.answers[member] = {given};
     const auto steps = sets_ ? "put " + row.members[0] + "=" + becomes : row.steps;
     for (size_t step = 1, end = 0; end != std::string::npos; ++step) {
       end = steps.find(" | ", end + 1);
-      outlook_.fail_at = step;
-      check_failure(row, given, steps.substr(0, end), LOWORD(++outlook_.failure.scode), "No such member.");
+      office_.fail_at = step;
+      check_failure(row, given, steps.substr(0, end), LOWORD(++office_.failure.scode), "No such member.");
     }
   }
 }

@@ -25,11 +25,11 @@ UserLocale::~UserLocale() {
 }
 
 PropertyTest::PropertyTest() {
-  outlook_.objects.insert({"Exceptions", "Parent", "Recipients"});
+  office_.objects.insert({"Exceptions", "Parent", "Recipients"});
   for (const char* list : {"Attachments.[newenum]", "Recipients.[newenum]"})
-    outlook_.answers[list] = {.items = {"First", "Second"}};
-  outlook_.answers["Appointment.Start"] = {march_5(14, 30)};
-  outlook_.answers["Appointment.Subject"] = {L"Lunch"};
+    office_.answers[list] = {.items = {"First", "Second"}};
+  office_.answers["Appointment.Start"] = {march_5(14, 30)};
+  office_.answers["Appointment.Subject"] = {L"Lunch"};
 }
 
 void PropertyTest::make_current() {

@@ -8,12 +8,12 @@ const std::string nothing = text_result("");
 class Recurrence : public PropertyTest {
  protected:
   Recurrence() {
-    outlook_.answers["Exceptions.Count"] = {3};
+    office_.answers["Exceptions.Count"] = {3};
     for (const char* name : {"Exception1", "Exception2", "Exception3"}) {
       const std::string number(1, name[9]);
-      outlook_.answers["Exceptions.Item(i2 " + number + ")"] = {.object = name};
-      outlook_.answers[name + std::string(".Deleted")] = {number == "2"};
-      outlook_.answers[name + std::string(".OriginalDate")] = {march_5(14, 30)};
+      office_.answers["Exceptions.Item(i2 " + number + ")"] = {.object = name};
+      office_.answers[name + std::string(".Deleted")] = {number == "2"};
+      office_.answers[name + std::string(".OriginalDate")] = {march_5(14, 30)};
     }
     make_current();
   }
@@ -28,11 +28,11 @@ class Recurrence : public PropertyTest {
                    const std::string& result, const std::string& failed = nothing) {
     for (size_t end = 0; end != std::string::npos;) {
       end = steps.find(" | ", end + 1);
-      ++outlook_.fail_at;
+      ++office_.fail_at;
       check(member, arguments, failed, steps.substr(0, end));
       EXPECT_EQ(last_error(), recorded(5941, "No such member."));
     }
-    outlook_.fail_at = 0;
+    office_.fail_at = 0;
     check(member, arguments, result, steps);
   }
 };
@@ -46,19 +46,19 @@ TEST_F(Recurrence, IsNotWrittenWhenItsWarningFails) {
   const std::string warning =
                         title + "The DayOfMonth is invalid 0 it will use a default value of the first day | ",
                     report = title + "DayOfMonth : 0 : No such member.";
-  outlook_.fail_at = 1;
+  office_.fail_at = 1;
   set("DayOfMonth", "0", "get Appointment.Subject | " + title_steps, report);
-  outlook_.fail_at = 2;
+  office_.fail_at = 2;
   set("DayOfMonth", "0", title_steps + " | " + title_steps, report);
-  outlook_.fail_at = 3;
+  office_.fail_at = 3;
   set("DayOfMonth", "0", title_steps + " | put Pattern.DayOfMonth=i4 1 | " + title_steps, warning + report);
 }
 
 TEST_F(Recurrence, RaisesAFailureOfItsReportUnrecorded) {
-  outlook_.fail_at = 2;
+  office_.fail_at = 2;
   set("Interval", "abc", title_steps, "", "raised 800A1735 No such member.");
-  outlook_.fail_at = 0;
-  outlook_.refused["Appointment.Subject"] = DISP_E_UNKNOWNNAME;
+  office_.fail_at = 0;
+  office_.refused["Appointment.Subject"] = DISP_E_UNKNOWNNAME;
   set("DayOfMonth", "0", "", "", "raised 800A01B6 Object doesn't support this property or method");
   EXPECT_EQ(last_error(), unset);
   control_ = outside::create(outside::classes[1]);
@@ -81,16 +81,16 @@ TEST_F(Recurrence, LooksAtTheKeyBeforeThePattern) {
 
 TEST_F(Recurrence, IsTakenAndClearedByTheAppointment) {
   const std::string asked = "get Appointment.IsRecurring";
-  outlook_.answers["Appointment.IsRecurring"] = {false};
+  office_.answers["Appointment.IsRecurring"] = {false};
   check(L"ClearRecurrencePattern", {}, "bool 0", asked, "not Recurrence");
   EXPECT_EQ(last_error(), unset);
-  outlook_.answers["Appointment.IsRecurring"] = {true};
+  office_.answers["Appointment.IsRecurring"] = {true};
   const auto cleared = asked + " | call Appointment.ClearRecurrencePattern";
   check_steps(L"ClearRecurrencePattern", {}, cleared, "bool -1", "bool 0");
-  outlook_.answers["Appointment.GetRecurrencePattern"] = {.object = "Other"};
-  outlook_.fail_at = 1;
+  office_.answers["Appointment.GetRecurrencePattern"] = {.object = "Other"};
+  office_.fail_at = 1;
   check(L"GetRecurrencePattern", {}, "bool 0", "get Appointment.GetRecurrencePattern");
-  outlook_.fail_at = 0;
+  office_.fail_at = 0;
   set("Interval", "1", "put Pattern.Interval=i4 1", "");
   check(L"GetRecurrencePattern", {}, "bool -1", "get Appointment.GetRecurrencePattern");
   set("Interval", "1", "put Other.Interval=i4 1", "");
@@ -104,29 +104,29 @@ TEST_F(Recurrence, ListsItsExceptions) {
       steps += " | get Pattern.Exceptions | get Exceptions.Item(i2 " + i + ") | get Exception" + i + member;
   const auto list = text_result("+05/03/2007,-05/03/2007,+05/03/2007");
   check_steps(L"GetRecurrenceProperty", {L"Exception List"}, steps, list);
-  outlook_.answers["Exceptions.Count"] = {0};
+  office_.answers["Exceptions.Count"] = {0};
   check(L"GetRecurrenceProperty", {L"Exception List"}, nothing, counted);
 }
 
 TEST_F(Recurrence, GivesEachException) {
-  outlook_.answers["Exceptions.Item(i2 -7)"] = {.object = "Exception3"};
-  outlook_.answers["Exception2.AppointmentItem"] = {.object = "Occurrence"};
-  outlook_.answers["Occurrence.Subject"] = {L"Dinner"};
+  office_.answers["Exceptions.Item(i2 -7)"] = {.object = "Exception3"};
+  office_.answers["Exception2.AppointmentItem"] = {.object = "Occurrence"};
+  office_.answers["Occurrence.Subject"] = {L"Dinner"};
   const auto get = [&](short i, const std::string& exception, const wchar_t* key, const std::string& member,
                        const std::string& text) {
     const auto found = "get Pattern.Exceptions | get Exceptions.Item(i2 " + std::to_string(i) + ") | get ";
     check_steps(L"GetExceptionProperty", {i, key}, found + exception + "." + member, text_result(text));
-    const int held = outlook_.live;
+    const int held = office_.live;
     expect(L"GetExceptionProperty", {i, key}, text_result(text));
-    EXPECT_EQ(outlook_.live, held);
+    EXPECT_EQ(office_.live, held);
     log();
   };
   get(2, "Exception2", L"OriginalDate", "OriginalDate", "05/03/2007");
   get(2, "Exception2", L"Deleted", "Deleted", "True");
   get(-7, "Exception3", L"Deleted", "Deleted", "False");
-  outlook_.fail_at = 3;
+  office_.fail_at = 3;
   expect(L"GetExceptionProperty", {2, L"Get Appointment"}, nothing);
-  outlook_.fail_at = 0;
+  office_.fail_at = 0;
   log();
   check(L"GetAppointmentProperty", {L"Subject"}, text_result("Lunch"), "get Appointment.Subject");
   get(2, "Exception2", L"Get Appointment", "AppointmentItem", "Appointment Found");

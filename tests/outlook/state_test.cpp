@@ -14,16 +14,16 @@ TEST_F(State, OnlyTheClassTellsKindsApart) {
   make_ready();
   const std::string usual = held();
   for (const auto& kind : item_kinds) {
-    outlook_.answers[std::string(kind.items) + ".GetNext"] = {nothing};
+    office_.answers[std::string(kind.items) + ".GetNext"] = {nothing};
     for (const int item_class : {26, 40, 43, 44, 48, 69, 46, 53, 181, 45, 41, 0, 65536 + kind.item_class}) {
       if (item_class == kind.item_class) continue;
-      outlook_.answers[std::string(kind.found) + ".Class"] = {item_class};
+      office_.answers[std::string(kind.found) + ".Class"] = {item_class};
       expect(L"GetFirstItem", {kind.word}, "bool 0");
       expect(L"GetItem", {kind.word, kind.word}, "bool 0");
       EXPECT_EQ(last_error(), recorded(13, "Type mismatch"));
     }
   }
-  outlook_.answers["NameSpace.GetItemFromID"] = {nothing};
+  office_.answers["NameSpace.GetItemFromID"] = {nothing};
   expect(L"GetItem", {L"Task", L"gone"}, "bool 0");
   EXPECT_EQ(last_error(), unset);
   EXPECT_EQ(held(), usual);
@@ -60,17 +60,17 @@ TEST_F(State, UnknownWordsAreShownAndNotRecorded) {
 
 TEST_F(State, AHundredThousandForeignItemsTakeNeitherStackNorMemory) {
   make_ready();
-  const int alive = outlook_.live;
+  const int alive = office_.live;
   int skipped = 0;
   const void* stack = nullptr;
-  auto& next = outlook_.answers["ContactItems.GetNext"];
+  auto& next = office_.answers["ContactItems.GetNext"];
   next = {.object = "Foreign", .effect = [&](const DISPPARAMS& on_stack) {
             if (++skipped == 1) stack = &on_stack;
-            if (stack != &on_stack || outlook_.live > alive + 1 || skipped == 100000)
+            if (stack != &on_stack || office_.live > alive + 1 || skipped == 100000)
               next = {.object = "FoundContact"};
-            outlook_.log.clear();
+            office_.log.clear();
           }};
-  outlook_.answers["ContactItems.GetFirst"] = {.object = "Foreign"};
+  office_.answers["ContactItems.GetFirst"] = {.object = "Foreign"};
   expect(L"GetFirstItem", {L"Contact"}, "bool -1");
   EXPECT_EQ(log(), "get Foreign.Class | get ContactItems.GetNext | get FoundContact.Class");
   EXPECT_EQ(skipped, 100000);
@@ -78,10 +78,10 @@ TEST_F(State, AHundredThousandForeignItemsTakeNeitherStackNorMemory) {
 
 TEST_F(State, CountsAndTheLastErrorsNumberAreOfSixteenBits) {
   make_ready();
-  outlook_.answers["EmailItems.Count"] = {32767};
+  office_.answers["EmailItems.Count"] = {32767};
   expect(L"GetItemCount", {L"Email"}, "i2 32767");
   EXPECT_EQ(last_error(), unset);
-  outlook_.answers["EmailItems.Count"] = {32768};
+  office_.answers["EmailItems.Count"] = {32768};
   expect(L"GetItemCount", {L"Email"}, "i2 0");
   EXPECT_EQ(last_error(), recorded(6, "Overflow"));
   const std::string overflow = "raised 800A0006 Overflow";
@@ -91,9 +91,9 @@ TEST_F(State, CountsAndTheLastErrorsNumberAreOfSixteenBits) {
                                                   {{DISP_E_EXCEPTION, 0xFFFF7FFF, 0, L"a"}, overflow},
                                                   {{DISP_E_EXCEPTION, 0x80020009, 0, L"a"}, overflow}};
   for (const auto& [failure, number] : rows) {
-    outlook_.failure = failure;
+    office_.failure = failure;
     log();
-    outlook_.fail_at = 1;
+    office_.fail_at = 1;
     expect(L"DeleteItem", {L"Note"}, "bool 0");
     for (int asked = 0; asked < 2; ++asked) EXPECT_EQ(last_error(), number + " bstr \"a\"");
   }
@@ -120,12 +120,12 @@ TEST_F(State, AttachmentsAreCountedWithoutThoseThatTheBodyNames) {
               {-1, L"", L"a", "next Attachments"}};
   make_ready();
   for (const auto& row : rows) {
-    outlook_.answers["Email.Body"] = {row.body};
-    outlook_.answers["Logo.FileName"] = {row.name};
+    office_.answers["Email.Body"] = {row.body};
+    office_.answers["Logo.FileName"] = {row.name};
     expect(L"SaveEmailAttachment", {row.number, L""}, "bool -1");
-    EXPECT_EQ(outlook_.log.back().substr(0, outlook_.log.back().find('.')), row.saved);
+    EXPECT_EQ(office_.log.back().substr(0, office_.log.back().find('.')), row.saved);
   }
-  outlook_.answers["Attachments.[newenum]"].items.assign(32768, "Report");
+  office_.answers["Attachments.[newenum]"].items.assign(32768, "Report");
   expect(L"SaveEmailAttachment", {short{0}, L""}, "bool 0", "Couldn't save Attachment Overflow : 0 : 1");
   EXPECT_EQ(last_error(), recorded(6, "Overflow"));
 }
@@ -133,24 +133,24 @@ TEST_F(State, AttachmentsAreCountedWithoutThoseThatTheBodyNames) {
 TEST_F(State, AFailureWhoseFactsCannotBeReadReachesTheHost) {
   make_ready();
   for (const auto* fact : {"Attachments.Item", "Attachment.BlockLevel", "Attachment.Type"}) {
-    outlook_.refused = {{"Figures.SaveAsFile", E_FAIL}, {fact, E_ACCESSDENIED}};
+    office_.refused = {{"Figures.SaveAsFile", E_FAIL}, {fact, E_ACCESSDENIED}};
     expect(L"SaveEmailAttachment", {2, L""}, "raised 800A0046 Permission denied");
     EXPECT_EQ(last_error(), unset);
   }
 }
 
 TEST_F(State, AHalfStartedSessionKeepsTheNewApplicationAndTheOldNamespace) {
-  outlook_.fail_at = 2;
+  office_.fail_at = 2;
   expect(L"StartOutlook", {}, "bool 0");
   expect(L"CreateItem", {L"Email"}, "bool -1");
   expect(L"GetItem", {L"Email", L"Email"}, "bool 0");
   make_ready();
-  outlook_.answers["Application.GetNamespace"] = {.object = "Second"};
+  office_.answers["Application.GetNamespace"] = {.object = "Second"};
   for (const auto* space : {"NameSpace", "Second"}) {
-    outlook_.fail_at = *space == 'N' ? 2 : 0;
+    office_.fail_at = *space == 'N' ? 2 : 0;
     call(L"StartOutlook");
     call(L"GetItem", {L"Email", L""});
-    EXPECT_EQ(outlook_.log.at(2), "get " + std::string(space) + ".GetItemFromID(bstr \"\")");
+    EXPECT_EQ(office_.log.at(2), "get " + std::string(space) + ".GetItemFromID(bstr \"\")");
     log();
   }
 }
@@ -167,28 +167,28 @@ TEST_F(State, ControlsShareNothingAndGoOnAfterStopping) {
   expect(L"GetRecurrencePattern", {}, "bool -1");
   expect(L"StopOutlook", {true}, "bool -1");
   EXPECT_EQ(held(), usual);
-  EXPECT_EQ(outlook_.live, 13) << "application, namespace, pattern, a collection and an item of each kind";
+  EXPECT_EQ(office_.live, 13) << "application, namespace, pattern, a collection and an item of each kind";
 }
 
 TEST_F(State, WhatTheHostDoesDuringACallCounts) {
   make_ready();
-  outlook_.answers["Notes.Items"] = {.object = "Fresh"};
-  outlook_.answers["Fresh.GetNext"] = {.object = "FoundNote"};
-  outlook_.answers["NoteItems.GetNext"] = {.object = "Foreign", .effect = [&](const DISPPARAMS&) {
-                                             outlook_.answers["NoteItems.GetNext"] = {nothing};
-                                             call(L"InitItems", {L"Note", L""});
-                                           }};
+  office_.answers["Notes.Items"] = {.object = "Fresh"};
+  office_.answers["Fresh.GetNext"] = {.object = "FoundNote"};
+  office_.answers["NoteItems.GetNext"] = {.object = "Foreign", .effect = [&](const DISPPARAMS&) {
+                                            office_.answers["NoteItems.GetNext"] = {nothing};
+                                            call(L"InitItems", {L"Note", L""});
+                                          }};
   expect(L"GetNextItem", {L"Note"}, "bool -1");
   EXPECT_TRUE(log().ends_with("get Foreign.Class | get Fresh.GetNext | get FoundNote.Class"));
-  outlook_.answers["FoundNote.Display"].effect = [&](const DISPPARAMS&) {
+  office_.answers["FoundNote.Display"].effect = [&](const DISPPARAMS&) {
     call(L"CreateItem", {L"Note"});
     control_.Reset();
   };
   expect(L"OpenItem", {L"Note"}, "bool -1");
-  EXPECT_EQ(outlook_.live, 0);
+  EXPECT_EQ(office_.live, 0);
   make_ready();
   at_box_ = [&] { control_.Reset(); };
-  outlook_.fail_at = 1;
+  office_.fail_at = 1;
   expect(L"OpenItem", {L"Task"}, "bool 0", "open item Task No such member.");
 }
 

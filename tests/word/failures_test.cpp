@@ -55,15 +55,15 @@ TEST_F(Failures, HaveTheirNumberAndDescription) {
   make_ready();
   for (const auto& row : told) {
     log();
-    word_.fail_at = 1;
-    word_.failure = row.failure;
+    office_.fail_at = 1;
+    office_.failure = row.failure;
     expect(L"PrintDoc", {1}, "empty", std::string("Print Doc ") + row.message);
   }
 }
 
 TEST_F(Failures, OfTheLookUpComeBeforeTheCall) {
   make_ready();
-  word_.refused["Document.PrintOut"] = DISP_E_UNKNOWNNAME;
+  office_.refused["Document.PrintOut"] = DISP_E_UNKNOWNNAME;
   expect(L"PrintDoc", {1}, "empty", "Print Doc 438 :  Object doesn't support this property or method");
   EXPECT_EQ(log(), "");
 }
@@ -71,12 +71,12 @@ TEST_F(Failures, OfTheLookUpComeBeforeTheCall) {
 TEST_F(Failures, DoNotTakeTheTextOfAnEarlierOne) {
   for (const bool refused : {false, true}) {
     make_ready();
-    word_.fail_at = 1;
-    word_.failure = {DISP_E_EXCEPTION, 1, 0, L"Own.", false, L"Stale."};
+    office_.fail_at = 1;
+    office_.failure = {DISP_E_EXCEPTION, 1, 0, L"Own.", false, L"Stale."};
     expect(L"Cut", {}, "empty");
     log();
-    word_.failure = {static_cast<HRESULT>(0x80041FFF)};
-    if (refused) word_.refused["Document.PrintOut"] = word_.failure.result;
+    office_.failure = {static_cast<HRESULT>(0x80041FFF)};
+    if (refused) office_.refused["Document.PrintOut"] = office_.failure.result;
     expect(L"PrintDoc", {1}, "empty", "Print Doc -2147213313 :  Automation error");
   }
 }
@@ -88,8 +88,8 @@ TEST_F(Failures, ReachTheHostUnderTheirNumber) {
         {{E_ACCESSDENIED}, "raised 800A0046 Permission denied"},
         {{DISP_E_EXCEPTION, 0, 4605, L"Own."}, "raised 800A11FD Own."}}) {
     log();
-    word_.fail_at = 1;
-    word_.failure = failure;
+    office_.fail_at = 1;
+    office_.failure = failure;
     expect(L"IsPrinting", {}, outcome);
   }
 }
@@ -120,14 +120,14 @@ TEST_F(Failures, OfNonsensicalAnswersKeepTheEarlierState) {
   for (const auto& row : rows) {
     SCOPED_TRACE(row.path);
     make_ready();
-    const auto usual = word_.answers;
-    word_.answers[row.path] = {row.answer};
+    const auto usual = office_.answers;
+    office_.answers[row.path] = {row.answer};
     expect(row.member, row.arguments, row.result, row.message);
     log();
     expect(L"SaveDoc", {}, "empty");
     expect(L"SetActive", {true}, "ui1 1");
     EXPECT_EQ(log(), "call Document.Save | call Application.Activate");
-    word_.answers = usual;
+    office_.answers = usual;
   }
 }
 

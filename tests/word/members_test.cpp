@@ -250,7 +250,7 @@ const std::set<std::wstring> raising = {L"StopWord", L"IsPrinting", L"NumberOfSe
 class Members : public WordTest, public testing::WithParamInterface<Row> {
  protected:
   Members() {
-    for (const auto& [path, answer] : row_.answers) word_.answers[path] = answer;
+    for (const auto& [path, answer] : row_.answers) office_.answers[path] = answer;
     for (const auto& [step, way] : reached) steps_ = std::regex_replace(steps_, std::regex(step), way + "$&");
   }
 
@@ -287,11 +287,11 @@ TEST_P(Members, StopAtTheStepThatFails) {
   for (size_t step = 1, end = 0; end != std::string::npos; ++step) {
     SCOPED_TRACE(step);
     make_ready();
-    word_.fail_at = step;
+    office_.fail_at = step;
     expect_failure("5941", "800A1735", "No such member.");
     end = steps_.find(" | ", end + 1);
     EXPECT_EQ(log(), steps_.substr(0, end));
-    word_.fail_at = 0;
+    office_.fail_at = 0;
     expect(L"SaveDoc", {}, "empty");
     expect(L"SetActive", {true}, "ui1 1");
     EXPECT_EQ(log(), "call Document.Save | call Application.Activate") << "the earlier state is kept";
@@ -300,7 +300,7 @@ TEST_P(Members, StopAtTheStepThatFails) {
 
 TEST_P(Members, NeedTheApplicationOrTheDocument) {
   const bool starts = steps_.starts_with("create");
-  word_.fail_at = starts ? 1 : 0;
+  office_.fail_at = starts ? 1 : 0;
   expect_failure("424", "800A01A8", "Object required");
   EXPECT_EQ(log(), starts ? "create Word.Application" : "");
 }

@@ -23,7 +23,7 @@ HWND make_window() {
 
 TEST_F(Printing, LetsTheHostsMessagesRunOnceAfterwards) {
   make_ready();
-  heard = &word_.log;
+  heard = &office_.log;
   const HWND window = make_window();
   for (const UINT last : {once, restless}) {
     PostMessageW(window, once, 0, 0);
@@ -82,7 +82,7 @@ TEST_F(Printing, ToPdfTakesTheFirstPrinterOfThatName) {
   expect(L"SaveDocAsPDF", {}, "bool -1");
   EXPECT_EQ(log(), printed);
   for (size_t step = 1, end = 0; end != std::string::npos; ++step) {
-    word_.fail_at = step;
+    office_.fail_at = step;
     expect(L"SaveDocAsPDF", {}, "bool 0", "Unable to print pdf : No such member.");
     end = printed.find(" | ", end + 1);
     EXPECT_EQ(log(), printed.substr(0, end));

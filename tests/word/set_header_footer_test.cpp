@@ -8,29 +8,29 @@ namespace {
 class SetHeaderFooter : public WordTest {
  protected:
   SetHeaderFooter() {
-    word_.objects.insert({"Font", "FormattedText"});
-    word_.answers[R"(Documents.Open(bstr "s"))"] = {.object = "Source"};
-    word_.answers[R"(Documents.Open(bstr "d"))"] = {.object = "Target"};
-    word_.answers[R"(Documents.Open(bstr "N.dotm"))"] = {.object = "Source"};
-    word_.answers["Application.NormalTemplate"] = {.object = "Normal"};
-    word_.answers["Normal.FullName"] = {L"N.dotm"};
-    word_.answers["Source.Sections"] = {.object = "From"};
-    word_.answers["Sections.[newenum]"] = {.items = {"To"}};
+    office_.objects.insert({"Font", "FormattedText"});
+    office_.answers[R"(Documents.Open(bstr "s"))"] = {.object = "Source"};
+    office_.answers[R"(Documents.Open(bstr "d"))"] = {.object = "Target"};
+    office_.answers[R"(Documents.Open(bstr "N.dotm"))"] = {.object = "Source"};
+    office_.answers["Application.NormalTemplate"] = {.object = "Normal"};
+    office_.answers["Normal.FullName"] = {L"N.dotm"};
+    office_.answers["Source.Sections"] = {.object = "From"};
+    office_.answers["Sections.[newenum]"] = {.items = {"To"}};
     for (const std::string kind : {"Headers", "Footers"}) {
-      word_.answers["From." + kind] = {.object = kind == "Headers" ? "FromHeaders" : "FromFooters"};
-      word_.answers["To." + kind] = {.object = kind == "Headers" ? "ToHeaders" : "ToFooters"};
-      word_.answers["To." + kind + "(i4 2)"] = {.object = kind == "Headers" ? "NewHeaders" : "NewFooters"};
-      word_.answers["From." + kind + "(i4 3)"] = {.object = "Absent"};
-      word_.answers["From" + kind + ".Exists"] = word_.answers["To" + kind + ".Exists"] = {true};
-      word_.answers["New" + kind + ".Exists"] = {false};
+      office_.answers["From." + kind] = {.object = kind == "Headers" ? "FromHeaders" : "FromFooters"};
+      office_.answers["To." + kind] = {.object = kind == "Headers" ? "ToHeaders" : "ToFooters"};
+      office_.answers["To." + kind + "(i4 2)"] = {.object = kind == "Headers" ? "NewHeaders" : "NewFooters"};
+      office_.answers["From." + kind + "(i4 3)"] = {.object = "Absent"};
+      office_.answers["From" + kind + ".Exists"] = office_.answers["To" + kind + ".Exists"] = {true};
+      office_.answers["New" + kind + ".Exists"] = {false};
     }
-    word_.answers["Absent.Exists"] = {false};
+    office_.answers["Absent.Exists"] = {false};
     // Each answer is one more than the last, as if every opening added a document.
-    word_.answers["Documents.Count"].effect = [this](const DISPPARAMS&) {
-      if (grows_) word_.answers["Documents.Count"].value = ++count_;
+    office_.answers["Documents.Count"].effect = [this](const DISPPARAMS&) {
+      if (grows_) office_.answers["Documents.Count"].value = ++count_;
     };
-    word_.answers["Source.Styles"] = {.object = "SourceStyle"};
-    word_.answers["Target.Styles"] = {.object = "TargetStyle"};
+    office_.answers["Source.Styles"] = {.object = "SourceStyle"};
+    office_.answers["Target.Styles"] = {.object = "TargetStyle"};
   }
 
   long count_ = 0;
@@ -102,7 +102,7 @@ TEST_F(SetHeaderFooter, ClosesWhatItOpenedWhicheverStepFails) {
     SCOPED_TRACE(step);
     end = everything_.find(" | ", end + 1);
     make_ready();
-    word_.fail_at = step;
+    office_.fail_at = step;
     expect(L"SetHeaderFooter", {L"s", L"d", true, true, true}, "ui1 0", "Set Header/Footer No such member.");
     const std::string done = everything_.substr(0, end);
     std::string rest = log();
@@ -113,7 +113,7 @@ TEST_F(SetHeaderFooter, ClosesWhatItOpenedWhicheverStepFails) {
     const bool target = step > 8, source = step > 4 && !source_closed;
     EXPECT_EQ(rest, std::string(target ? " | call Target.Close(i4 0)" : "") +
                         (source ? " | call Source.Close(i4 0)" : ""));
-    EXPECT_EQ(word_.live, 2);
+    EXPECT_EQ(office_.live, 2);
   }
   EXPECT_GT(step, 50U);
 }
@@ -124,7 +124,7 @@ TEST_F(SetHeaderFooter, NeedsTheApplication) {
 
 TEST_F(WordTest, AHeaderThatDoesNotExistCannotBeSearched) {
   make_ready();
-  word_.answers["Headers.Exists"] = {false};
+  office_.answers["Headers.Exists"] = {false};
   expect(L"ReplaceHeaderFooter", {1, true, 2, L"a", L"b"}, "ui1 0",
          "Replace Header/Footer The requested member of the collection does not exist.");
 }

@@ -9,24 +9,24 @@ using State = WordTest;
 
 TEST_F(State, AnEndingControlReleasesAndCallsNothing) {
   make_ready();
-  EXPECT_EQ(word_.live, 2);
+  EXPECT_EQ(office_.live, 2);
   control_.Reset();
-  EXPECT_EQ(word_.live, 0);
+  EXPECT_EQ(office_.live, 0);
   EXPECT_EQ(log(), "");
 }
 
 TEST_F(State, AControlThatTheHostDropsDuringACallEndsAfterIt) {
   make_ready();
-  word_.answers["Documents.Open"] = {{}, "Document", {}, [&](const DISPPARAMS&) { control_.Reset(); }};
+  office_.answers["Documents.Open"] = {{}, "Document", {}, [&](const DISPPARAMS&) { control_.Reset(); }};
   expect(L"OpenDoc", {L"C:\\b.docx"}, "ui1 1");
-  EXPECT_EQ(word_.live, 0);
+  EXPECT_EQ(office_.live, 0);
 }
 
 TEST_F(State, ADocumentOpenedWhileAnotherClosesStays) {
   make_ready();
-  word_.answers["Document.Close"].effect = [&](const DISPPARAMS&) { expect(L"OpenDoc", {L"b"}, "ui1 1"); };
+  office_.answers["Document.Close"].effect = [&](const DISPPARAMS&) { expect(L"OpenDoc", {L"b"}, "ui1 1"); };
   expect(L"CloseDoc", {}, "empty");
-  EXPECT_EQ(word_.live, 2);
+  EXPECT_EQ(office_.live, 2);
   expect(L"SaveDoc", {}, "empty");
 }
 
@@ -34,11 +34,11 @@ TEST_F(State, ASecondStartReplacesTheApplicationAndQuitsNothing) {
   make_ready();
   expect(L"Start", {}, "ui1 1");
   EXPECT_EQ(log().find("Quit"), std::string::npos);
-  EXPECT_EQ(word_.live, 2);
+  EXPECT_EQ(office_.live, 2);
 }
 
 TEST_F(State, ALateFailureOfStartKeepsTheNewApplication) {
-  word_.fail_at = 3;
+  office_.fail_at = 3;
   expect(L"Start", {}, "ui1 0");
   expect(L"SetActive", {true}, "ui1 1");
 }
@@ -46,24 +46,24 @@ TEST_F(State, ALateFailureOfStartKeepsTheNewApplication) {
 TEST_F(State, ClosingAndStoppingLetGo) {
   make_ready();
   expect(L"CloseDoc", {}, "empty");
-  EXPECT_EQ(word_.live, 1);
+  EXPECT_EQ(office_.live, 1);
   expect(L"CloseDoc", {}, "empty", "Close Doc Object required");
-  word_.answers["Documents.Count"] = {1};
+  office_.answers["Documents.Count"] = {1};
   expect(L"StopWord", {}, "empty");
-  EXPECT_EQ(word_.live, 1) << "with a document open the word processor goes on";
+  EXPECT_EQ(office_.live, 1) << "with a document open the word processor goes on";
   expect(L"StopWord", {true}, "empty");
-  EXPECT_EQ(word_.live, 0);
+  EXPECT_EQ(office_.live, 0);
   expect(L"SetActive", {true}, "ui1 0", "Set Active Object required");
 }
 
 TEST_F(State, ANewDocumentReplacesTheEarlierOneWithoutClosingIt) {
   make_ready();
-  word_.answers["Documents.Add"] = {.object = "Document2"};
+  office_.answers["Documents.Add"] = {.object = "Document2"};
   expect(L"CreateDoc", {}, "ui1 1");
   expect(L"SaveDoc", {}, "empty");
   EXPECT_EQ(log(),
             "get Application.Documents | get Documents.Add(Template:=&bstr \"\") | call Document2.Save");
-  EXPECT_EQ(word_.live, 2);
+  EXPECT_EQ(office_.live, 2);
 }
 
 TEST_F(State, PathsOfAnyLengthArrive) {
@@ -90,7 +90,7 @@ TEST_F(State, TextOfEveryPlaneGoesThroughUnchanged) {
   sent.vt = VT_BSTR;
   sent.bstrVal = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
   const _variant_t everything(sent, false);
-  word_.answers["Selection.Text"] = {everything};
+  office_.answers["Selection.Text"] = {everything};
   make_ready();
   expect(L"SendText", {everything}, "ui1 1");
   EXPECT_TRUE(log().ends_with(" | call Selection.TypeText(" + describe(everything) + ")"));
@@ -131,8 +131,8 @@ TEST_F(State, WhatComesBackByReferenceReachesTheHostsVariable) {
   for (const auto& row : rows) {
     SCOPED_TRACE(row.changing);
     make_ready();
-    const auto usual = word_.answers;
-    word_.answers[row.changing].effect = change;
+    const auto usual = office_.answers;
+    office_.answers[row.changing].effect = change;
     for (const bool typed : {true, false}) {
       auto host = row.host;
       std::vector<_variant_t> arguments(host.size());
@@ -146,7 +146,7 @@ TEST_F(State, WhatComesBackByReferenceReachesTheHostsVariable) {
       for (const auto& variable : host) after += describe(variable) + " ";
       EXPECT_EQ(after, row.after);
     }
-    word_.answers = usual;
+    office_.answers = usual;
   }
 }
 

@@ -35,9 +35,9 @@ TEST_F(Global, IsKeptUntilTheLibraryMayGo) {
     EXPECT_EQ(outside::call("DllCanUnloadNow"), S_FALSE);
     control_ = outside::create(outside::classes[2]);
     expect(L"Start", {true}, "ui1 1");
-    EXPECT_EQ(created(suite_.log), times);
+    EXPECT_EQ(created(office_.log), times);
     end_control();
-    EXPECT_EQ(suite_.live, 0);
+    EXPECT_EQ(office_.live, 0);
     control_ = outside::create(outside::classes[2]);
   }
 }
@@ -48,24 +48,24 @@ TEST_F(Global, IsReplacedWhenItsWordProcessorHasEnded) {
        {std::pair{server_unavailable, 2}, {RPC_E_DISCONNECTED, 2}, {RPC_E_CALL_REJECTED, 1}}) {
     make_ready();
     expect(L"Start", {true}, "ui1 1");
-    suite_.refused["Global"] = status;
+    office_.refused["Global"] = status;
     expect(L"Start", {true}, "ui1 1");
-    EXPECT_EQ(created(suite_.log), times);
-    EXPECT_EQ(suite_.live, 5) << "the service manager, two services, a document and it";
+    EXPECT_EQ(created(office_.log), times);
+    EXPECT_EQ(office_.live, 5) << "the service manager, two services, a document and it";
   }
 }
 
 TEST_F(Global, ServesOtherApartments) {
   expect(L"Start", {true}, "ui1 1");
-  taken_log(suite_);
+  taken_log(office_);
   EXPECT_EQ(created(start_elsewhere()), 0);
-  EXPECT_EQ(std::ranges::count(suite_.log, "get Global.CentimetersToPoints(r4 3)"), 2);
+  EXPECT_EQ(std::ranges::count(office_.log, "get Global.CentimetersToPoints(r4 3)"), 2);
 }
 
 TEST_F(Global, IsReplacedWhenItsApartmentHasEnded) {
   EXPECT_EQ(created(start_elsewhere()), 1);
   expect(L"Start", {true}, "ui1 1");
-  EXPECT_EQ(created(suite_.log), 1);
+  EXPECT_EQ(created(office_.log), 1);
 }
 
 }  // namespace

@@ -32,7 +32,7 @@ const std::string resized =
     " | get Global.System | get System.VerticalResolution | get Global.CentimetersToPoints(r4 0.5)"
     " | get Global.PixelsToPoints(r4 1280, missing) | get Global.PixelsToPoints(r4 1024, missing)"
     " | call Application.Resize(Width:=r4 874.5, Height:=r4 753.75)";
-const std::string twice = "Start %|%";
+const std::string twice = "Start % | %";
 
 std::string loaded(const std::string& path) {
   return "get Desktop.loadComponentFromURL(bstr \"file:///" + path +
@@ -47,7 +47,7 @@ std::string searched(const std::string& expression) {
          expression + " | get Document.findFirst(&object)";
 }
 const std::string hit = " | get Document.GetSelection | get GetSelection.GetString";
-const std::string search_fails = "a.c|Search %";
+const std::string search_fails = "a.c | Search %";
 
 const _variant_t nothing(static_cast<IDispatch*>(nullptr)), unknown(static_cast<IUnknown*>(nullptr));
 
@@ -63,12 +63,12 @@ const Row own[] = {
     {L"CloseDoc", {-1}, "empty", "call Document.Close(&i2 -1, i4 1, bool 0)"},
     {L"ReadText", {0, 0}, "bstr \"all of it\"", read, "", "ReadText : %"},
     {L"ReadText", {5, 10}, "bstr \"all of it\"", read, "", "ReadText : %"},
-    {L"Search", {L"a.c"}, "ui1 1", searched("0") + hit, "a.c|chosen", search_fails},
+    {L"Search", {L"a.c"}, "ui1 1", searched("0") + hit, "a.c | chosen", search_fails},
     {L"Search",
      {L"a.c", 0, false, true, true, true, false, true, true},
      "ui1 1",
      searched("0") + hit,
-     "a.c|chosen",
+     "a.c | chosen",
      search_fails},
     {L"Search",
      {L"a.c", 1, true, false, false, false, true, false, false},
@@ -83,7 +83,7 @@ const Row own[] = {
 class OwnMembers : public WriterTest, public testing::WithParamInterface<Row> {
  protected:
   OwnMembers() {
-    for (const auto& [path, answer] : row_.answers) suite_.answers[path] = answer;
+    for (const auto& [path, answer] : row_.answers) office_.answers[path] = answer;
   }
 
   void expect_failure(const std::string& description) {
@@ -99,30 +99,30 @@ class OwnMembers : public WriterTest, public testing::WithParamInterface<Row> {
 TEST_P(OwnMembers, TakeTheirSteps) {
   make_ready();
   expect(row_.member, row_.arguments, row_.result, row_.shows);
-  EXPECT_EQ(taken_log(suite_), row_.steps);
+  EXPECT_EQ(taken_log(office_), row_.steps);
   expect(L"ReadText", {0, 0}, all);
-  EXPECT_EQ(taken_log(suite_), read) << "a document is active, also a closed one";
+  EXPECT_EQ(taken_log(office_), read) << "a document is active, also a closed one";
 }
 
 TEST_P(OwnMembers, StopAtTheStepThatFails) {
   for (size_t step = 1, end = 0; end != std::string::npos; ++step) {
     SCOPED_TRACE(step);
     make_ready();
-    suite_.fail_at = step;
+    office_.fail_at = step;
     expect_failure("No such member.");
     end = row_.steps.find(" | ", end + 1);
-    EXPECT_EQ(taken_log(suite_), row_.steps.substr(0, end));
-    suite_.fail_at = 0;
+    EXPECT_EQ(taken_log(office_), row_.steps.substr(0, end));
+    office_.fail_at = 0;
     expect(L"ReadText", {0, 0}, all);
     expect(L"OpenDoc", {L"b"}, "ui1 1");
-    EXPECT_EQ(taken_log(suite_), read + " | " + loaded("b")) << "the earlier state is kept";
+    EXPECT_EQ(taken_log(office_), read + " | " + loaded("b")) << "the earlier state is kept";
   }
 }
 
 TEST_P(OwnMembers, NeedTheDesktopOrTheDocument) {
   if (row_.steps.starts_with("create")) return;
   expect_failure("Object required");
-  EXPECT_EQ(taken_log(suite_), "");
+  EXPECT_EQ(taken_log(office_), "");
 }
 
 INSTANTIATE_TEST_SUITE_P(Writer, OwnMembers, testing::ValuesIn(own),
@@ -135,57 +135,57 @@ TEST_F(State, TheWindowsMembersDoNothing) {
     if (ready) make_ready();
     for (const auto* member : {L"SetVisible", L"SetActive", L"SetScreenUpdating"})
       for (const bool flag : {false, true}) expect(member, {flag}, "ui1 1");
-    EXPECT_EQ(taken_log(suite_), "");
+    EXPECT_EQ(taken_log(office_), "");
   }
 }
 
 TEST_F(State, AFailedPlacementKeepsWhatWasStarted) {
-  suite_.refused["Application.WindowState"] = DISP_E_UNKNOWNNAME;
+  office_.refused["Application.WindowState"] = DISP_E_UNKNOWNNAME;
   const std::string text = "Object doesn't support this property or method";
-  expect(L"Start", {true}, "ui1 0", "Start " + text + "|" + text);
-  EXPECT_EQ(taken_log(suite_), started);
+  expect(L"Start", {true}, "ui1 0", "Start " + text + " | " + text);
+  EXPECT_EQ(taken_log(office_), started);
   expect(L"CreateDoc", {L"a"}, "ui1 1");
-  EXPECT_EQ(suite_.live, 4);
+  EXPECT_EQ(office_.live, 4);
 }
 
 // What a Basic host's object variable does not take.
 TEST_F(State, AnswersThatAreNoObjectsFail) {
   const std::string unset = "Object variable or With block variable not set";
   for (const auto& [path, answer, member, boxes] :
-       {std::tuple{"Document.findFirst", _variant_t(), L"Search", std::string("a|Search Object required")},
-        {"Document.createSearchDescriptor", nothing, L"Search", "a|Search " + unset},
+       {std::tuple{"Document.findFirst", _variant_t(), L"Search", std::string("a | Search Object required")},
+        {"Document.createSearchDescriptor", nothing, L"Search", "a | Search " + unset},
         {"Desktop.loadComponentFromURL", nothing, L"OpenDoc", "OpenDoc " + unset},
         {"Desktop.loadComponentFromURL", 7, L"CreateDoc", "Create Doc Object required"}}) {
-    const auto usual = suite_.answers;
+    const auto usual = office_.answers;
     make_ready();
-    suite_.answers[path] = {answer};
+    office_.answers[path] = {answer};
     expect(member, {L"a"}, "ui1 0", boxes);
-    suite_.answers = usual;
+    office_.answers = usual;
     expect(L"ReadText", {0, 0}, all);
   }
 }
 
 TEST_F(State, WhatACallPutsIntoItsReferencesIsReleased) {
   make_ready();
-  suite_.answers["Document.findFirst"].effect = [&](const DISPPARAMS& parameters) {
+  office_.answers["Document.findFirst"].effect = [&](const DISPPARAMS& parameters) {
     (*parameters.rgvarg->ppdispVal)->Release();
-    *parameters.rgvarg->ppdispVal = suite_.make("Other");
+    *parameters.rgvarg->ppdispVal = office_.make("Other");
   };
-  suite_.answers["Desktop.loadComponentFromURL"].effect = [&](const DISPPARAMS& parameters) {
+  office_.answers["Desktop.loadComponentFromURL"].effect = [&](const DISPPARAMS& parameters) {
     SAFEARRAY* filled = *parameters.rgvarg->pparray = SafeArrayCreateVector(VT_VARIANT, 0, 1);
     LONG index = 0;
-    _variant_t object(suite_.make("Argument"), false);
+    _variant_t object(office_.make("Argument"), false);
     SafeArrayPutElement(filled, &index, &object);
   };
-  expect(L"Search", {L"a"}, "ui1 1", "a|chosen");
+  expect(L"Search", {L"a"}, "ui1 1", "a | chosen");
   expect(L"OpenDoc", {L"a"}, "ui1 1");
-  EXPECT_EQ(suite_.live, 4);
+  EXPECT_EQ(office_.live, 4);
 }
 
 class SharedMembers : public WriterTest {
  protected:
   SharedMembers() {
-    for (FakeOffice* office : {static_cast<FakeOffice*>(&word_), static_cast<FakeOffice*>(&suite_)})
+    for (FakeOffice* office : {static_cast<FakeOffice*>(&word_), static_cast<FakeOffice*>(&office_)})
       office->objects.insert({"Font", "FormattedText", "NormalTemplate", "Styles"});
   }
 
@@ -201,7 +201,8 @@ class SharedMembers : public WriterTest {
     office.fail_at = fail_at;
     const std::string result = late_call(control.Get(), member.c_str(), arguments, host_.Get());
     steps_ = office.log.size();
-    return result + "\n" + shown() + "\n" + taken_log(office) + "\n" + std::to_string(office.live - live);
+    return result + "\n" + taken_boxes(boxes_) + "\n" + taken_log(office) + "\n" +
+           std::to_string(office.live - live);
   }
 
   FakeWord word_;
@@ -213,11 +214,11 @@ TEST_F(SharedMembers, DoOverTheSuiteWhatTheyDoOverTheWordProcessor) {
   for (const auto& member : shared_members()) {
     SCOPED_TRACE(member.name);
     for (const auto* arguments : {&member.fewest, &member.all}) {
-      outcome(suite_, outside::classes[2], member.name, *arguments, 0);
+      outcome(office_, outside::classes[2], member.name, *arguments, 0);
       EXPECT_EQ(steps_ == 0, member.name.starts_with(L"GetLastError"));
       size_t fail_at = 0;
       do {
-        EXPECT_EQ(outcome(suite_, outside::classes[2], member.name, *arguments, fail_at),
+        EXPECT_EQ(outcome(office_, outside::classes[2], member.name, *arguments, fail_at),
                   outcome(word_, outside::classes[0], member.name, *arguments, fail_at));
       } while (fail_at++ < steps_);
     }

@@ -1,0 +1,74 @@
+// A control of the built library over a recording office application, as the members' tests drive it.
+#pragma once
+
+#include <utility>
+
+#include "fake_object.h"
+#include "late_call.h"
+#include "message_boxes.h"
+#include "outside/library.h"
+#include "text.h"
+
+using Arguments = std::vector<_variant_t>;
+
+// The office's log since the last call, steps separated by " | ".
+inline std::string taken_log(FakeOffice& office) {
+  std::string all;
+  for (const auto& line : std::exchange(office.log, {})) all += (all.empty() ? "" : " | ") + line;
+  return all;
+}
+
+// The boxes since the last call, separated by " | ". A title that is not the library's stands in brackets
+// before.
+inline std::string taken_boxes(MessageBoxes& boxes) {
+  std::string all;
+  for (const auto& box : boxes.take()) {
+    all += all.empty() ? "" : " | ";
+    all += box.title == "ZORBOffice" ? box.text : "[" + box.title + "] " + box.text;
+    EXPECT_EQ(box.buttons, std::vector<std::string>{"OK"});
+  }
+  return all;
+}
+
+template <class Office, int class_index>
+class ControlTest : public testing::Test {
+ protected:
+  ~ControlTest() {
+    end_control();
+    EXPECT_EQ(office_.live, 0) << "objects of the office application are still held";
+    EXPECT_EQ(taken_boxes(boxes_), "");
+  }
+
+  // Ends the control, and with it all that the library holds.
+  void end_control() {
+    control_.Reset();
+    EXPECT_EQ(outside::call("DllCanUnloadNow"), S_OK);
+  }
+
+  // Replaces the control by a fresh one, over an application that no step fails in.
+  void renew() {
+    control_.Reset();
+    outside::call("DllCanUnloadNow");
+    office_.fail_at = 0;
+    control_ = outside::create(outside::classes[class_index]);
+  }
+
+  // Calls `member` late bound and returns its result as the log shows values, or "raised NUMBER DESCRIPTION"
+  // with the failure that reached the host.
+  std::string call(const wchar_t* member, const Arguments& arguments = {}) {
+    return late_call(control_.Get(), member, arguments);
+  }
+
+  // Calls `member`, which must give `result` and show the boxes `boxes`, as taken_boxes() has them.
+  void expect(const wchar_t* member, const Arguments& arguments, const std::string& result,
+              const std::string& boxes = "") {
+    EXPECT_EQ(call(member, arguments), result) << utf8(member);
+    EXPECT_EQ(taken_boxes(boxes_), boxes) << utf8(member);
+  }
+
+  std::string log() { return taken_log(office_); }
+
+  Office office_;
+  MessageBoxes boxes_;
+  Microsoft::WRL::ComPtr<IDispatch> control_ = outside::create(outside::classes[class_index]);
+};
