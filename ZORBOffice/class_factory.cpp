@@ -32,9 +32,10 @@ class ClassFactory final : public IClassFactory {
   HRESULT STDMETHODCALLTYPE CreateInstance(IUnknown* outer, REFIID id, void** object) noexcept override {
     if (!object) return E_POINTER;
     *object = nullptr;
-    if (outer) return CLASS_E_NOAGGREGATION;
+    // Only the outer object is to hold the identity, and through it the rest.
+    if (outer && id != IID_IUnknown) return CLASS_E_NOAGGREGATION;
     try {
-      IUnknown* instance = row_.create(row_.default_interface);
+      IUnknown* instance = row_.create(row_, outer);
       const HRESULT status = instance->QueryInterface(id, object);
       instance->Release();
       return status;

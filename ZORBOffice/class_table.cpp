@@ -12,8 +12,8 @@ namespace zorboffice {
 namespace {
 
 template <class Control>
-IUnknown* create(const DefaultInterface& default_interface) {
-  return static_cast<IDispatch*>(new Control(default_interface));
+IUnknown* create(const ClassRow& row, IUnknown* outer) {
+  return (new Control(row, outer))->identity();
 }
 
 std::array rows = {

@@ -2,22 +2,34 @@
 #pragma once
 
 #include <windows.h>
-#include <unknwn.h>
+#include <ole2.h>
 
 #include <span>
 
-#include "ZORBOffice/surface/control.h"
+#include "ZORBOffice/surface/member_table.h"
 #include "ZORBOffice/surface/published_classes.h"
 
 namespace zorboffice {
 
+struct DefaultInterface {
+  IID id;
+  const MemberTable& members;
+};
+
 struct ClassRow {
   const PublishedClass& published;
-  int toolbox_bitmap;                            // resource number
-  IUnknown* (*create)(const DefaultInterface&);  // with one reference; throws std::bad_alloc
+  int toolbox_bitmap;  // resource number
+  // Makes an instance, as part of outer where that is not null, and returns its identity with one reference;
+  // throws std::bad_alloc.
+  IUnknown* (*create)(const ClassRow& row, IUnknown* outer);
   DefaultInterface default_interface;
   IID event_interface_id;
 };
+
+// What containers ask of a control before they load it; the registry says the same.
+inline constexpr DWORD control_misc_status = OLEMISC_RECOMPOSEONRESIZE | OLEMISC_CANTLINKINSIDE |
+                                             OLEMISC_INSIDEOUT | OLEMISC_ACTIVATEWHENVISIBLE |
+                                             OLEMISC_SETCLIENTSITEFIRST;
 
 // The table, empty until load_class_table() has succeeded.
 std::span<const ClassRow> class_table() noexcept;

@@ -1,57 +1,30 @@
-// What the instances of all three classes have in common: identity, reference count, dispatch and error
-// information.
+// What the instances of all three classes have in common.
 #pragma once
 
 #include <windows.h>
 #include <oaidl.h>
 
-#include <atomic>
-
+#include "ZORBOffice/class_table.h"
 #include "ZORBOffice/common/com_ptr.h"
 #include "ZORBOffice/common/member_frame.h"
-#include "ZORBOffice/module.h"
+#include "ZORBOffice/control/instance.h"
 #include "ZORBOffice/surface/binder.h"
 #include "ZORBOffice/surface/type_information.h"
 
 namespace zorboffice {
 
-struct DefaultInterface {
-  IID id;
-  const MemberTable& members;
-};
-
+// An instance as automation sees it. Its identity, its life and what containers see are the base class's.
 template <class Interface>
-class Control : public Interface, public ISupportErrorInfo {
+class Control : public Interface, public Instance {
  public:
-  explicit Control(const DefaultInterface& default_interface) : default_interface_(default_interface) {}
-  Control(const Control&) = delete;
-  Control& operator=(const Control&) = delete;
+  Control(const ClassRow& row, IUnknown* outer)
+      : Instance(row, outer), default_interface_(row.default_interface) {}
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) noexcept override {
-    if (!object) return E_POINTER;
-    *object = nullptr;
-    if (id == IID_IUnknown || id == IID_IDispatch || id == default_interface_.id) {
-      *object = static_cast<Interface*>(this);
-    } else if (id == IID_ISupportErrorInfo) {
-      *object = static_cast<ISupportErrorInfo*>(this);
-    } else {
-      return E_NOINTERFACE;
-    }
-    AddRef();
-    return S_OK;
+    return outer().QueryInterface(id, object);
   }
-
-  ULONG STDMETHODCALLTYPE AddRef() noexcept override { return ++references_; }
-
-  ULONG STDMETHODCALLTYPE Release() noexcept override {
-    const ULONG left = --references_;
-    if (left == 0) {
-      // Objects that the destructor releases may call back, which must not destroy the instance again.
-      references_ = 1;
-      delete this;
-    }
-    return left;
-  }
+  ULONG STDMETHODCALLTYPE AddRef() noexcept override { return outer().AddRef(); }
+  ULONG STDMETHODCALLTYPE Release() noexcept override { return outer().Release(); }
 
   HRESULT STDMETHODCALLTYPE GetTypeInfoCount(UINT* count) noexcept override {
     if (!count) return E_POINTER;
@@ -79,13 +52,7 @@ class Control : public Interface, public ISupportErrorInfo {
                          argument_error);
   }
 
-  HRESULT STDMETHODCALLTYPE InterfaceSupportsErrorInfo(REFIID id) noexcept override {
-    return id == default_interface_.id ? S_OK : S_FALSE;
-  }
-
  protected:
-  virtual ~Control() = default;
-
   // The member frame, in which the instance stays alive: while an office call waits, the host may drop its
   // last reference.
   template <class ResultType, class Trap, class Body>
@@ -95,9 +62,9 @@ class Control : public Interface, public ISupportErrorInfo {
   }
 
  private:
+  IDispatch* automation() noexcept override { return this; }
+
   const DefaultInterface& default_interface_;
-  std::atomic<ULONG> references_ = 1;
-  ModuleReference module_reference_;
 };
 
 }  // namespace zorboffice

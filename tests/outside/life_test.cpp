@@ -23,7 +23,7 @@ TEST(Factory, gives_a_class_its_own_interfaces_and_refuses_the_rest) {
       EXPECT_EQ(instance.Get() != nullptr, code == S_OK);
     }
     made = &made;
-    EXPECT_EQ(factory(ids)->CreateInstance(factory(ids).Get(), IID_IUnknown, &made), CLASS_E_NOAGGREGATION);
+    EXPECT_EQ(factory(ids)->CreateInstance(factory(ids).Get(), IID_IDispatch, &made), CLASS_E_NOAGGREGATION);
     EXPECT_EQ(made, nullptr);
   }
 }

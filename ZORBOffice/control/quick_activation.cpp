@@ -1,0 +1,49 @@
+#include "ZORBOffice/control/quick_activation.h"
+
+#include "ZORBOffice/class_table.h"
+#include "ZORBOffice/control/hosted_control.h"
+
+namespace zorboffice {
+
+HRESULT QuickActivation::QuickActivate(QACONTAINER* container, QACONTROL* control) noexcept {
+  if (!container || !control) return E_POINTER;
+  if (container->cbSize < sizeof *container || control->cbSize < sizeof *control) return E_INVALIDARG;
+  const auto kept = control_.alive();
+  *control = {sizeof *control, control_misc_status, View::status, 0, 0, 0};
+  control_.ole_object().SetClientSite(container->pClientSite);
+  control_.site().set_ambient_properties((container->dwAmbientFlags & QACONTAINER_USERMODE) != 0,
+                                         container->colorBack);
+  // A sink that cannot be connected has the cookie 0; the control is activated all the same.
+  ConnectionPoints& points = control_.connection_points();
+  if (container->pAdviseSink) control_.view().SetAdvise(DVASPECT_CONTENT, 0, container->pAdviseSink);
+  if (container->pUnkEventSink) points.events().Advise(container->pUnkEventSink, &control->dwEventCookie);
+  if (container->pPropertyNotifySink) {
+    points.properties().Advise(container->pPropertyNotifySink, &control->dwPropNotifyCookie);
+  }
+  return S_OK;
+}
+
+HRESULT QuickActivation::SetContentExtent(LPSIZEL extent) noexcept {
+  return extent ? control_.set_extent(*extent) : E_POINTER;
+}
+
+HRESULT QuickActivation::GetContentExtent(LPSIZEL extent) noexcept {
+  if (!extent) return E_POINTER;
+  *extent = control_.extent();
+  return S_OK;
+}
+
+HRESULT QuickActivation::SetSite(IUnknown* site) noexcept {
+  const auto kept = control_.alive();
+  site_ = ComPtr<IUnknown>(site);
+  return S_OK;
+}
+
+HRESULT QuickActivation::GetSite(REFIID id, void** site) noexcept {
+  if (!site) return E_POINTER;
+  *site = nullptr;
+  const ComPtr<IUnknown> kept = site_;
+  return kept ? kept->QueryInterface(id, site) : E_FAIL;
+}
+
+}  // namespace zorboffice
