@@ -4,6 +4,7 @@
 #include <regex>
 
 #include "members.h"
+#include "support/leaks.h"
 #include "support/message_boxes.h"
 #include "support/text.h"
 
@@ -58,29 +59,14 @@ TEST(Instance, is_one_object_behind_all_its_interfaces) {
   }
 }
 
-size_t busy_heap_blocks() {
-  HANDLE heaps[64];
-  size_t blocks = 0;
-  for (DWORD i = 0, count = std::min<DWORD>(GetProcessHeaps(64, heaps), 64); i < count; ++i)
-    for (PROCESS_HEAP_ENTRY entry = {}; HeapWalk(heaps[i], &entry);)
-      blocks += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0;
-  return blocks;
-}
-
-// The number of the next free handle: it rises with handles that stay open. (Wine counts no handles.)
-size_t next_handle() {
-  const HANDLE handle = CreateEventW(nullptr, FALSE, FALSE, nullptr);
-  CloseHandle(handle);
-  return reinterpret_cast<size_t>(handle) / 4;
-}
-
 TEST(Instances, come_and_go_ten_thousand_times_without_a_trace) {
   for (const ClassIds& ids : classes) {
     for (int i = 0; i < 10'000; ++i) create(ids);
-    const size_t blocks = busy_heap_blocks(), handles = next_handle();
+    const Resources before = resources_in_use();
     for (int i = 0; i < 10'000; ++i) create(ids);
-    EXPECT_EQ(busy_heap_blocks(), blocks) << ids.name;
-    EXPECT_LT(next_handle(), handles + 100) << ids.name;
+    const Resources after = resources_in_use();
+    EXPECT_EQ(after.blocks, before.blocks) << ids.name;
+    EXPECT_LT(after.handles, before.handles + 100) << ids.name;
     EXPECT_EQ(call("DllCanUnloadNow"), S_OK);
   }
 }
