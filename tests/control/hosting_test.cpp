@@ -3,6 +3,7 @@
 #include <objsafe.h>
 #include <servprov.h>
 
+#include "atl_container.h"
 #include "hosted.h"
 #include "support/leaks.h"
 
@@ -269,6 +270,37 @@ TEST(Containers, come_and_go_a_thousand_times_without_a_trace) {
       expect_no_more_than(before, host == windows_forms ? "Windows Forms" : "Visual Basic");
       EXPECT_EQ(outside::call("DllCanUnloadNow"), S_OK);
     }
+  }
+}
+
+TEST(AtlContainer, comes_and_goes_a_thousand_times_without_a_trace) {
+  StrictContainer form;
+  for (const auto& ids : classes) {
+    const auto round = [&] {
+      const auto control = outside::create(ids);
+      const HWND holder = atl::hold(control.Get(), form.form(), {10, 10, 50, 50});
+      ComPtr<IOleClientSite> site;
+      const auto object = as<IOleObject>(control.Get());
+      ASSERT_EQ(object->GetClientSite(&site), S_OK);
+      HWND window = nullptr;
+      EXPECT_EQ(as<IOleInPlaceObject>(control.Get())->GetWindow(&window), S_OK);
+      MoveWindow(holder, 10, 10, 90, 70, TRUE);
+      RECT client = {};
+      GetClientRect(window, &client);
+      EXPECT_TRUE(client.right == 90 && client.bottom == 70);
+      EXPECT_EQ(object->DoVerb(OLEIVERB_UIACTIVATE, nullptr, site.Get(), 0, holder, &client), S_OK);
+      EXPECT_EQ(as<IOleInPlaceObject>(control.Get())->UIDeactivate(), S_OK);
+      EXPECT_EQ(as<IPersistStreamInit>(control.Get())->Load(saved_stream().Get()), S_OK);
+      EXPECT_EQ(as<IPersistStreamInit>(control.Get())->Save(saved_stream().Get(), TRUE), S_OK);
+      site.Reset();
+      DestroyWindow(holder);
+      EXPECT_FALSE(IsWindow(window));
+    };
+    for (int i = 0; i < 50; ++i) round();
+    const Resources before = resources_in_use();
+    for (int i = 0; i < 1'000; ++i) round();
+    expect_no_more_than(before, "ATL");
+    EXPECT_EQ(outside::call("DllCanUnloadNow"), S_OK);
   }
 }
 

@@ -1,66 +1,20 @@
 // The picture box: the same picture in a window, in any device context, in metafiles.
-#include <functional>
 #include <set>
-#include <vector>
 
-#include "hosted.h"
+#include "pictures.h"
 
 using Microsoft::WRL::ComPtr;
 using outside::classes;
 
 namespace {
 
-using Pixels = std::vector<DWORD>;
-constexpr int side = 28;
 constexpr COLORREF background = RGB(10, 200, 30);
-
-// What `draw` draws into a picture of 28 by 28 pixels.
-Pixels drawn(const std::function<void(HDC)>& draw) {
-  BITMAPINFO format = {};
-  format.bmiHeader = {sizeof format.bmiHeader, side, -side, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-  void* bits = nullptr;
-  const HDC dc = CreateCompatibleDC(nullptr);
-  const HBITMAP bitmap = CreateDIBSection(nullptr, &format, DIB_RGB_COLORS, &bits, nullptr, 0);
-  const HGDIOBJ earlier = SelectObject(dc, bitmap);
-  draw(dc);
-  GdiFlush();
-  Pixels pixels(static_cast<DWORD*>(bits), static_cast<DWORD*>(bits) + side * side);
-  for (DWORD& pixel : pixels) pixel &= 0xFFFFFF;
-  SelectObject(dc, earlier);
-  DeleteObject(bitmap);
-  DeleteDC(dc);
-  return pixels;
-}
 
 DWORD as_pixel(COLORREF color) { return RGB(GetBValue(color), GetGValue(color), GetRValue(color)); }
 
 HRESULT draw(IUnknown* control, HDC dc, RECTL bounds, DWORD aspect = DVASPECT_CONTENT, LONG index = -1) {
   return as<IViewObject>(control)->Draw(aspect, index, nullptr, nullptr, nullptr, dc, &bounds, nullptr,
                                         nullptr, 0);
-}
-
-void map(HDC dc, SIZE window) {
-  SetMapMode(dc, MM_ANISOTROPIC);
-  SetWindowExtEx(dc, window.cx, window.cy, nullptr);
-  SetViewportExtEx(dc, side, side, nullptr);
-}
-
-STGMEDIUM data(IUnknown* control, CLIPFORMAT id, DWORD medium) {
-  FORMATETC format = {id, nullptr, DVASPECT_CONTENT, -1, medium};
-  STGMEDIUM taken = {};
-  EXPECT_EQ(as<IDataObject>(control)->GetData(&format, &taken), S_OK);
-  EXPECT_EQ(taken.tymed, medium);
-  return taken;
-}
-
-void play_metafile(IUnknown* control, HDC dc) {
-  STGMEDIUM taken = data(control, CF_METAFILEPICT, TYMED_MFPICT);
-  const auto picture = static_cast<METAFILEPICT*>(GlobalLock(taken.hMetaFilePict));
-  EXPECT_TRUE(picture->mm == MM_ANISOTROPIC && picture->xExt == 741 && picture->yExt == 741);
-  map(dc, {1, 1});
-  PlayMetaFile(dc, picture->hMF);
-  GlobalUnlock(taken.hMetaFilePict);
-  ReleaseStgMedium(&taken);
 }
 
 void play_enhanced_metafile(IUnknown* control, HDC dc) {
