@@ -76,8 +76,8 @@ constexpr Member members[] = {
     {L"Flag", flag_result, method, VT_BOOL, native_call<&Probe::Flag>, {}}};
 static_assert(agree_with_signatures(members));
 constinit const MemberTable table = members;
-const DefaultInterface surface{IID_IDispatch, table};
-Probe::Probe() : Control(surface) {}
+const ClassRow row{zorb_word_class, 0, nullptr, {IID_IDispatch, table}, {}};
+Probe::Probe() : Control(row, nullptr) {}
 
 class Binder : public testing::Test {
  protected:
