@@ -4,10 +4,7 @@
 #include <iterator>
 #include <set>
 
-#include "atl_container.h"
 #include "pictures.h"
-
-using outside::classes;
 
 namespace {
 
@@ -51,15 +48,14 @@ bool comes_to_show(const Pixels& expected, int left, int top) {
 TEST(Screen, shows_the_three_controls_as_their_metafiles_draw_them) {
   const HWND form = CreateWindowW(L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 200, 100, nullptr, nullptr,
                                   nullptr, nullptr);
-  std::vector<Microsoft::WRL::ComPtr<IDispatch>> controls;
+  std::vector<ComPtr<IDispatch>> controls;
   std::set<Pixels> pictures;
   for (const auto& ids : classes) {
     const int left = 10 + 50 * static_cast<int>(controls.size());
     controls.push_back(outside::create(ids));
-    atl::hold(controls.back().Get(), form, {left, 20, left + side, 20 + side});
+    hold_by_atl(controls.back().Get(), form, {left, 20, left + side, 20 + side});
     // Wine's container says the extent in another unit than HIMETRIC.
-    SIZEL extent = {side * 2540 / 96, side * 2540 / 96};
-    EXPECT_EQ(as<IOleObject>(controls.back().Get())->SetExtent(DVASPECT_CONTENT, &extent), S_OK);
+    EXPECT_EQ(resize(controls.back().Get(), side * 2540 / 96, side * 2540 / 96), S_OK);
     const auto expected = drawn([&](HDC dc) { play_metafile(controls.back().Get(), dc); });
     EXPECT_TRUE(comes_to_show(expected, left, 20)) << ids.name;
     pictures.insert(on_screen(left, 20));

@@ -1,22 +1,44 @@
-// A control in the strict container, driven the way the usual containers do it.
+// A control in containers, driven the way the usual ones do it.
 #pragma once
 
-#include <ocidl.h>
-#include <olectl.h>
+#include <map>
 
 #include "outside/library.h"
 #include "support/strict_container.h"
 
+using Microsoft::WRL::ComPtr;
+using outside::classes;
+
 template <class Interface>
-Microsoft::WRL::ComPtr<Interface> as(IUnknown* object) {
-  Microsoft::WRL::ComPtr<Interface> found;
+ComPtr<Interface> as(IUnknown* object) {
+  ComPtr<Interface> found;
   object->QueryInterface(__uuidof(Interface), &found);
   outside::require(found.Get(), "interface");
   return found;
 }
 
-// The class's stream of a control that was sized 1000 by 900.
-Microsoft::WRL::ComPtr<IStream> saved_stream();
+// A property bag of texts, as a form's text file gives them.
+struct Bag final : IPropertyBag {
+  HRESULT WINAPI QueryInterface(REFIID, void**) override { return E_NOINTERFACE; }
+  ULONG WINAPI AddRef() override { return 2; }
+  ULONG WINAPI Release() override { return 1; }
+  HRESULT WINAPI Read(LPCOLESTR name, VARIANT* value, IErrorLog*) override {
+    if (FAILED(failure)) return failure;
+    if (!texts.contains(name)) return E_INVALIDARG;
+    V_VT(value) = VT_BSTR;
+    V_BSTR(value) = SysAllocString(texts[name].c_str());
+    return S_OK;
+  }
+  HRESULT WINAPI Write(LPCOLESTR name, VARIANT* value) override {
+    return texts[name] = std::to_wstring(V_I4(value)), failure;
+  }
+  std::map<std::wstring, std::wstring> texts;
+  HRESULT failure = S_OK;
+};
+
+ComPtr<IStream> stream_of(const std::string& bytes);
+HRESULT draw(IUnknown* control, HDC dc, RECTL bounds, DWORD aspect = DVASPECT_CONTENT, LONG index = -1);
+HRESULT resize(IUnknown* control, LONG width, LONG height);
 
 // Whether the control still draws itself, knows its members and can be saved.
 bool is_usable(IUnknown* control);
@@ -26,3 +48,6 @@ bool is_usable(IUnknown* control);
 using Host = void (*)(StrictContainer& container, IUnknown* control);
 void windows_forms(StrictContainer& container, IUnknown* control);
 void visual_basic(StrictContainer& container, IUnknown* control);
+
+// Puts a control into a window of the system's ATL container, and returns that window.
+HWND hold_by_atl(IUnknown* control, HWND form, const RECT& position);

@@ -1,10 +1,5 @@
 // Saving and loading a control's extent by each interface that containers use.
-#include <map>
-
 #include "hosted.h"
-
-using Microsoft::WRL::ComPtr;
-using outside::classes;
 
 namespace {
 
@@ -14,39 +9,10 @@ SIZEL extent_of(IUnknown* control) {
   return extent;
 }
 
-ComPtr<IDispatch> sized(const outside::ClassIds& ids, SIZEL extent) {
+ComPtr<IDispatch> sized(const outside::ClassIds& ids, LONG width, LONG height) {
   const auto control = outside::create(ids);
-  EXPECT_EQ(as<IOleObject>(control.Get())->SetExtent(DVASPECT_CONTENT, &extent), S_OK);
+  EXPECT_EQ(resize(control.Get(), width, height), S_OK);
   return control;
-}
-
-struct Bag final : IPropertyBag {
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID, void**) override { return E_NOINTERFACE; }
-  ULONG STDMETHODCALLTYPE AddRef() override { return 2; }
-  ULONG STDMETHODCALLTYPE Release() override { return 1; }
-  HRESULT STDMETHODCALLTYPE Read(LPCOLESTR name, VARIANT* value, IErrorLog*) override {
-    if (FAILED(failure)) return failure;
-    const auto found = texts.find(name);
-    if (found == texts.end()) return E_INVALIDARG;
-    // As a form's text file gives it: everything is a string.
-    V_VT(value) = VT_BSTR;
-    V_BSTR(value) = SysAllocString(found->second.c_str());
-    return S_OK;
-  }
-  HRESULT STDMETHODCALLTYPE Write(LPCOLESTR name, VARIANT* value) override {
-    texts[name] = std::to_wstring(V_I4(value));
-    return failure;
-  }
-  std::map<std::wstring, std::wstring> texts;
-  HRESULT failure = S_OK;
-};
-
-ComPtr<IStream> stream_of(const std::string& bytes) {
-  ComPtr<IStream> stream;
-  CreateStreamOnHGlobal(nullptr, TRUE, &stream);
-  stream->Write(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr);
-  stream->Seek({}, STREAM_SEEK_SET, nullptr);
-  return stream;
 }
 
 ComPtr<IStorage> storage() {
@@ -60,7 +26,7 @@ ComPtr<IStorage> storage() {
 
 TEST(Persistence, brings_the_extent_back_by_every_interface) {
   for (const auto& ids : classes) {
-    const auto saved = sized(ids, {4321, 1234});
+    const auto saved = sized(ids, 4321, 1234);
     const auto stream = stream_of("");
     const auto file = storage();
     Bag bag;
@@ -91,12 +57,14 @@ TEST(Persistence, brings_the_extent_back_by_every_interface) {
 }
 
 TEST(Persistence, refuses_what_is_damaged_and_stays_usable) {
-  char good[12] = {};
+  const auto whole = stream_of("");
+  EXPECT_EQ(as<IPersistStreamInit>(sized(classes[0], 1000, 900).Get())->Save(whole.Get(), TRUE), S_OK);
+  whole->Seek({}, STREAM_SEEK_SET, nullptr);
+  char bytes[13] = {};
   ULONG size = 0;
-  const auto whole = saved_stream();
-  whole->Read(good, sizeof good, &size);
-  ASSERT_EQ(size, sizeof good);
-  const std::string record(good, sizeof good);
+  whole->Read(bytes, sizeof bytes, &size);
+  const std::string record(bytes, size);
+  ASSERT_EQ(size, 12u);
   std::vector<std::pair<std::string, HRESULT>> rows;
   for (size_t length = 0; length < record.size(); ++length)
     rows.emplace_back(record.substr(0, length), STG_E_READFAULT);
@@ -107,7 +75,7 @@ TEST(Persistence, refuses_what_is_damaged_and_stays_usable) {
   rows.emplace_back("X" + record.substr(1), STG_E_DOCFILECORRUPT);
   rows.emplace_back(record, S_OK);
   for (const auto& [bytes, status] : rows) {
-    const auto control = sized(classes[0], {2222, 1111}), stored = sized(classes[0], {2222, 1111});
+    const auto control = sized(classes[0], 2222, 1111), stored = sized(classes[0], 2222, 1111);
     EXPECT_EQ(as<IPersistStreamInit>(control.Get())->Load(stream_of(bytes).Get()), status) << bytes.size();
     const auto file = storage();
     ComPtr<IStream> stream;
@@ -138,7 +106,7 @@ TEST(Persistence, takes_an_empty_bag_for_the_defaults_and_refuses_a_wrong_one) {
     Bag bag;
     bag.texts = texts;
     bag.failure = failure;
-    const auto control = sized(classes[0], {2222, 1111});
+    const auto control = sized(classes[0], 2222, 1111);
     EXPECT_EQ(as<IPersistPropertyBag>(control.Get())->Load(&bag, nullptr), status);
     EXPECT_EQ(extent_of(control.Get()).cx, width);
     EXPECT_TRUE(is_usable(control.Get()));

@@ -3,19 +3,11 @@
 
 #include "pictures.h"
 
-using Microsoft::WRL::ComPtr;
-using outside::classes;
-
 namespace {
 
 constexpr COLORREF background = RGB(10, 200, 30);
 
 DWORD as_pixel(COLORREF color) { return RGB(GetBValue(color), GetGValue(color), GetRValue(color)); }
-
-HRESULT draw(IUnknown* control, HDC dc, RECTL bounds, DWORD aspect = DVASPECT_CONTENT, LONG index = -1) {
-  return as<IViewObject>(control)->Draw(aspect, index, nullptr, nullptr, nullptr, dc, &bounds, nullptr,
-                                        nullptr, 0);
-}
 
 void play_enhanced_metafile(IUnknown* control, HDC dc) {
   STGMEDIUM taken = data(control, CF_ENHMETAFILE, TYMED_ENHMF);
@@ -30,7 +22,7 @@ TEST(Picture, is_the_class_s_bitmap_in_a_sunken_box_on_the_container_s_colour) {
     StrictContainer container;
     container.background = background;
     const auto control = outside::create(ids);
-    as<IOleObject>(control.Get())->SetClientSite(container.site());
+    as<IOleObject>(control.Get())->SetClientSite(&container);
     const auto picture = drawn([&](HDC dc) { EXPECT_EQ(draw(control.Get(), dc, {0, 0, side, side}), S_OK); });
     const auto expected = drawn([&](HDC dc) {
       const auto fill = [&](RECT area, COLORREF color) {
@@ -71,9 +63,9 @@ TEST(Picture, is_the_same_in_a_window_in_metafiles_and_in_other_units) {
   StrictContainer container;
   const auto control = outside::create(classes[1]);
   const auto object = as<IOleObject>(control.Get());
-  object->SetClientSite(container.site());
-  object->DoVerb(OLEIVERB_SHOW, nullptr, container.site(), 0, container.form(), nullptr);
-  const HWND window = GetWindow(container.form(), GW_CHILD);
+  object->SetClientSite(&container);
+  object->DoVerb(OLEIVERB_SHOW, nullptr, &container, 0, container.form, nullptr);
+  const HWND window = container.window();
   const auto expected = drawn([&](HDC dc) { draw(control.Get(), dc, {0, 0, side, side}); });
   const std::pair<const char*, std::function<void(HDC)>> ways[] = {
       {"window",
@@ -101,7 +93,7 @@ TEST(Picture, is_the_same_in_a_window_in_metafiles_and_in_other_units) {
 TEST(Picture, follows_the_container_s_colour_and_is_drawn_where_there_is_little_room) {
   StrictContainer container;
   const auto control = outside::create(classes[2]);
-  as<IOleObject>(control.Get())->SetClientSite(container.site());
+  as<IOleObject>(control.Get())->SetClientSite(&container);
   const auto colour = [&] {
     return drawn([&](HDC dc) { draw(control.Get(), dc, {0, 0, side, side}); })[3 * side + 3];
   };
@@ -112,8 +104,7 @@ TEST(Picture, follows_the_container_s_colour_and_is_drawn_where_there_is_little_
   as<IOleObject>(control.Get())->SetClientSite(nullptr);
   // Nothing outside the bounds, whatever the size.
   for (const int size : {1, 2, 4, 5, 12}) {
-    SIZEL extent = {size * 2540 / 96 + 1, size * 2540 / 96 + 1};
-    as<IOleObject>(control.Get())->SetExtent(DVASPECT_CONTENT, &extent);
+    resize(control.Get(), size * 2540 / 96 + 1, size * 2540 / 96 + 1);
     const auto pixels = drawn([&](HDC dc) { draw(control.Get(), dc, {2, 2, 2 + size, 2 + size}); });
     for (int i = 0; i < side * side; ++i) {
       const bool inside = i % side >= 2 && i % side < 2 + size && i / side >= 2 && i / side < 2 + size;

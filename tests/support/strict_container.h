@@ -5,47 +5,166 @@
 #include <windows.h>
 #include <ole2.h>
 #include <ocidl.h>
+#include <olectl.h>
 
 #include <functional>
-#include <memory>
+#include <initializer_list>
 #include <string>
 #include <utility>
+#include <vector>
 
-class StrictContainer {
- public:
-  StrictContainer();
-  StrictContainer(const StrictContainer&) = delete;
-  ~StrictContainer();
+// An object of the container, which answers for the interfaces it lists.
+template <class... Interfaces>
+struct Counted : Interfaces... {
+  using Face = std::pair<IID, IUnknown*>;
+  Counted(int& held, std::initializer_list<Face> faces) : held_(held), faces_(faces) {}
 
-  IOleClientSite* site() const;
-  IUnknown* sink() const;  // IAdviseSink, IPropertyNotifySink, and IDispatch for events
+  HRESULT WINAPI QueryInterface(REFIID id, void** object) override {
+    *object = nullptr;
+    for (const auto& [known, face] : faces_)
+      if (known == id) *object = face;
+    return *object ? AddRef(), S_OK : E_NOINTERFACE;
+  }
+  ULONG WINAPI AddRef() override { return ++held_; }
+  ULONG WINAPI Release() override { return --held_; }
+
+ private:
+  int& held_;
+  const std::vector<Face> faces_;
+};
+
+// What happens to the container: the calls by name, and one of them, counted from 1, that is special.
+struct Happenings {
+  HRESULT step(const std::string& name) {
+    log += (log.empty() ? "" : " ") + name;
+    if (++calls != special_call) return S_OK;
+    if (interruption) interruption();
+    return failure;
+  }
+  std::string take_log() { return std::exchange(log, {}); }
+
+  int held = 0;  // references that others hold on the container's objects
+  int calls = 0, special_call = 0;
+  HRESULT failure = S_OK;
+  std::function<void()> interruption;
+  std::string log;
+};
+
+// The frame, and the document in it, which has the first methods of the frame.
+struct Frame final : Counted<IOleInPlaceFrame> {
+  Frame(Happenings& happenings, std::string name)
+      : Counted(happenings.held,
+                {{IID_IUnknown, this}, {IID_IOleInPlaceUIWindow, this}, {IID_IOleInPlaceFrame, this}}),
+        happenings_(happenings),
+        name_(std::move(name)) {}
+
+  void forget() {
+    if (const auto object = std::exchange(active_, nullptr)) object->Release();
+  }
+  HRESULT WINAPI SetActiveObject(IOleInPlaceActiveObject* object, LPCOLESTR) override {
+    const HRESULT status = happenings_.step(name_ + (object ? ".SetActiveObject" : ".ClearActiveObject"));
+    if (FAILED(status)) return status;
+    forget();
+    if (object) object->AddRef();
+    return active_ = object, S_OK;
+  }
+  HRESULT WINAPI SetBorderSpace(LPCBORDERWIDTHS) override { return happenings_.step(name_ + ".NoTools"); }
+  HRESULT WINAPI GetWindow(HWND*) override { return E_NOTIMPL; }
+  HRESULT WINAPI ContextSensitiveHelp(BOOL) override { return E_NOTIMPL; }
+  HRESULT WINAPI GetBorder(LPRECT) override { return INPLACE_E_NOTOOLSPACE; }
+  HRESULT WINAPI RequestBorderSpace(LPCBORDERWIDTHS) override { return INPLACE_E_NOTOOLSPACE; }
+  HRESULT WINAPI InsertMenus(HMENU, LPOLEMENUGROUPWIDTHS) override { return E_NOTIMPL; }
+  HRESULT WINAPI SetMenu(HMENU, HOLEMENU, HWND) override { return E_NOTIMPL; }
+  HRESULT WINAPI RemoveMenus(HMENU) override { return E_NOTIMPL; }
+  HRESULT WINAPI SetStatusText(LPCOLESTR) override { return E_NOTIMPL; }
+  HRESULT WINAPI EnableModeless(BOOL) override { return E_NOTIMPL; }
+  HRESULT WINAPI TranslateAccelerator(LPMSG, WORD) override { return S_FALSE; }
+
+ private:
+  Happenings& happenings_;
+  const std::string name_;
+  IOleInPlaceActiveObject* active_ = nullptr;
+};
+
+// The site, which is also every sink.
+struct StrictContainer final
+    : Happenings,
+      Counted<IOleClientSite, IOleInPlaceSite, IOleControlSite, IDispatch, IAdviseSink, IPropertyNotifySink> {
+  StrictContainer()
+      : Counted(held, {{IID_IUnknown, static_cast<IOleClientSite*>(this)},
+                       {IID_IOleClientSite, static_cast<IOleClientSite*>(this)},
+                       {IID_IOleInPlaceSite, static_cast<IOleInPlaceSite*>(this)},
+                       {IID_IOleControlSite, static_cast<IOleControlSite*>(this)},
+                       {IID_IDispatch, static_cast<IDispatch*>(this)},
+                       {IID_IAdviseSink, static_cast<IAdviseSink*>(this)},
+                       {IID_IPropertyNotifySink, static_cast<IPropertyNotifySink*>(this)}}) {}
+  ~StrictContainer() { DestroyWindow(form); }
+
   // Drops the references on the active object, as a container does that goes away.
-  void forget_active_object();
-  HWND form() const { return form_; }
+  void forget_active_object() { frame_.forget(), document_.forget(); }
+  HWND window() const { return ::GetWindow(form, GW_CHILD); }
 
-  // References that others hold on the container's objects.
-  int held() const { return held_; }
-  // The calls since the last time, by name.
-  std::string log() { return std::exchange(log_, {}); }
-
+  const HWND form = CreateWindowW(L"STATIC", L"", WS_OVERLAPPEDWINDOW | WS_VISIBLE, 0, 0, 300, 200, nullptr,
+                                  nullptr, nullptr, nullptr);
   bool user_mode = true;
   OLE_COLOR background = 0x80000000 | COLOR_BTNFACE;
   RECT position = {10, 10, 38, 38};
-  int calls = 0;
-  int special_call = 0;                // this call, counted from 1,
-  HRESULT failure = S_OK;              // fails with this, if it is a failure,
-  std::function<void()> interruption;  // and does this first
+
+  HRESULT WINAPI SaveObject() override { return step("SaveObject"); }
+  HRESULT WINAPI ShowObject() override { return step("ShowObject"); }
+  HRESULT WINAPI GetWindow(HWND* window) override {
+    const HRESULT status = step("GetWindow");
+    return *window = FAILED(status) ? nullptr : form, status;
+  }
+  HRESULT WINAPI CanInPlaceActivate() override { return step("CanInPlaceActivate"); }
+  HRESULT WINAPI OnInPlaceActivate() override { return step("OnInPlaceActivate"); }
+  HRESULT WINAPI OnUIActivate() override { return step("OnUIActivate"); }
+  HRESULT WINAPI GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWindow** document, LPRECT place,
+                                  LPRECT clip, LPOLEINPLACEFRAMEINFO) override {
+    const HRESULT status = step("GetWindowContext");
+    if (FAILED(status)) return status;
+    (*frame = &frame_)->AddRef();
+    (*document = &document_)->AddRef();
+    return *place = *clip = position, S_OK;
+  }
+  HRESULT WINAPI OnUIDeactivate(BOOL) override { return step("OnUIDeactivate"); }
+  HRESULT WINAPI OnInPlaceDeactivate() override { return step("OnInPlaceDeactivate"); }
+  HRESULT WINAPI TranslateAccelerator(MSG*, DWORD) override { return step("TranslateAccelerator"); }
+  HRESULT WINAPI OnFocus(BOOL focus) override { return step(focus ? "Focus" : "NoFocus"); }
+  HRESULT WINAPI Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
+                        UINT*) override {
+    const HRESULT status = step("Ambient");
+    if (FAILED(status)) return status;
+    V_VT(result) = id == DISPID_AMBIENT_USERMODE ? VT_BOOL : VT_I4;
+    if (id == DISPID_AMBIENT_USERMODE) return V_BOOL(result) = user_mode ? VARIANT_TRUE : VARIANT_FALSE, S_OK;
+    return V_I4(result) = static_cast<LONG>(background), id == DISPID_AMBIENT_BACKCOLOR ? S_OK : E_FAIL;
+  }
+  void WINAPI OnDataChange(FORMATETC*, STGMEDIUM*) override { step("OnDataChange"); }
+  void WINAPI OnViewChange(DWORD, LONG) override { step("OnViewChange"); }
+  void WINAPI OnSave() override { step("OnSave"); }
+  void WINAPI OnClose() override { step("OnClose"); }
+
+  HRESULT WINAPI GetMoniker(DWORD, DWORD, IMoniker**) override { return E_NOTIMPL; }
+  HRESULT WINAPI GetContainer(IOleContainer**) override { return E_NOINTERFACE; }
+  HRESULT WINAPI OnShowWindow(BOOL) override { return E_NOTIMPL; }
+  HRESULT WINAPI RequestNewObjectLayout() override { return E_NOTIMPL; }
+  HRESULT WINAPI ContextSensitiveHelp(BOOL) override { return E_NOTIMPL; }
+  HRESULT WINAPI Scroll(SIZE) override { return E_NOTIMPL; }
+  HRESULT WINAPI DiscardUndoState() override { return E_NOTIMPL; }
+  HRESULT WINAPI DeactivateAndUndo() override { return E_NOTIMPL; }
+  HRESULT WINAPI OnPosRectChange(LPCRECT) override { return E_NOTIMPL; }
+  HRESULT WINAPI OnControlInfoChanged() override { return E_NOTIMPL; }
+  HRESULT WINAPI LockInPlaceActive(BOOL) override { return E_NOTIMPL; }
+  HRESULT WINAPI GetExtendedControl(IDispatch**) override { return E_NOTIMPL; }
+  HRESULT WINAPI TransformCoords(POINTL*, POINTF*, DWORD) override { return E_NOTIMPL; }
+  HRESULT WINAPI ShowPropertyFrame() override { return E_NOTIMPL; }
+  HRESULT WINAPI GetTypeInfoCount(UINT*) override { return E_NOTIMPL; }
+  HRESULT WINAPI GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+  HRESULT WINAPI GetIDsOfNames(REFIID, LPOLESTR*, UINT, LCID, DISPID*) override { return E_NOTIMPL; }
+  void WINAPI OnRename(IMoniker*) override {}
+  HRESULT WINAPI OnChanged(DISPID) override { return E_NOTIMPL; }
+  HRESULT WINAPI OnRequestEdit(DISPID) override { return E_NOTIMPL; }
 
  private:
-  struct Site;
-  struct Sink;
-  struct Frame;
-  HRESULT step(const char* name);
-
-  HWND form_;
-  int held_ = 0;
-  std::string log_;
-  std::unique_ptr<Site> site_;
-  std::unique_ptr<Sink> sink_;
-  std::unique_ptr<Frame> frame_, document_;
+  Frame frame_{*this, "Frame"}, document_{*this, "Document"};
 };
