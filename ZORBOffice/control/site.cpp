@@ -2,18 +2,20 @@
 
 #include <olectl.h>
 
+#include <utility>
+
 #include "ZORBOffice/common/variant.h"
 
 namespace zorboffice {
 namespace {
 
-// Returns false where the container does not share the property, or as something else.
-bool read(IDispatch& container, DISPID property, VARTYPE type, Variant& value) {
+// Empty where the container does not share the property.
+Variant ambient_property(IDispatch& container, DISPID property) {
   DISPPARAMS none = {};
-  Variant shared;
-  return SUCCEEDED(container.Invoke(property, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET, &none,
-                                    shared.receive(), nullptr, nullptr)) &&
-         SUCCEEDED(VariantChangeType(value.receive(), &shared.get(), 0, type));
+  Variant value;
+  const HRESULT status = container.Invoke(property, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_PROPERTYGET,
+                                          &none, value.receive(), nullptr, nullptr);
+  return FAILED(status) ? Variant() : std::move(value);
 }
 
 }  // namespace
@@ -31,14 +33,14 @@ void Site::set(IOleClientSite* site) noexcept {
 void Site::read_ambient_properties() noexcept {
   const auto container = as<IDispatch>(IID_IDispatch);
   if (!container) return;
-  Variant user_mode;
-  if (read(*container.get(), DISPID_AMBIENT_USERMODE, VT_BOOL, user_mode)) {
+  Variant user_mode = ambient_property(*container.get(), DISPID_AMBIENT_USERMODE);
+  if (user_mode.type() != VT_EMPTY &&
+      SUCCEEDED(VariantChangeType(&user_mode.get(), &user_mode.get(), 0, VT_BOOL))) {
     user_mode_ = V_BOOL(&user_mode.get()) != VARIANT_FALSE;
   }
-  Variant background;
-  if (read(*container.get(), DISPID_AMBIENT_BACKCOLOR, VT_I4, background)) {
-    background_ = static_cast<OLE_COLOR>(V_I4(&background.get()));
-  }
+  // A colour has 32 bits; whether the highest is a sign, containers see differently.
+  const Variant background = ambient_property(*container.get(), DISPID_AMBIENT_BACKCOLOR);
+  if (background.type() == VT_I4 || background.type() == VT_UI4) background_ = V_UI4(&background.get());
 }
 
 void Site::set_ambient_properties(bool user_mode, OLE_COLOR background) noexcept {

@@ -30,8 +30,13 @@ bool is_usable(IUnknown* control) {
   return known && saved && drawn == S_OK;
 }
 
-static HRESULT verb(StrictContainer& container, IUnknown* control, LONG verb) {
-  return as<IOleObject>(control)->DoVerb(verb, nullptr, &container, 0, container.form, &container.position);
+static void verb(StrictContainer& container, IUnknown* control, LONG verb) {
+  const HRESULT status =
+      as<IOleObject>(control)->DoVerb(verb, nullptr, &container, 0, container.form, &container.position);
+  EXPECT_FALSE(container.out_of_order) << container.log;
+  EXPECT_TRUE(container.in_place == 1 || !container.window()) << container.log;
+  const bool certain = verb == OLEIVERB_INPLACEACTIVATE;
+  EXPECT_TRUE(!certain || container.in_place == (status == S_OK)) << container.log;
 }
 
 static void pump() {
@@ -78,7 +83,7 @@ void visual_basic(StrictContainer& container, IUnknown* control) {
   IAdviseSink* const sink = &container;
   QACONTAINER given = {};
   QACONTROL taken = {};
-  given.cbSize = sizeof given;
+  given.cbSize = offsetof(QACONTAINER, pOleControlSite);
   taken.cbSize = sizeof taken;
   given.pClientSite = &container;
   given.pAdviseSink = reinterpret_cast<IAdviseSinkEx*>(sink);

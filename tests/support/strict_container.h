@@ -41,9 +41,22 @@ struct Happenings {
     if (interruption) interruption();
     return failure;
   }
+  // A call that begins something, which lasts unless it fails, or ends it.
+  HRESULT begin(int& lasting, const std::string& name) {
+    ++lasting;
+    const HRESULT status = step(name);
+    return lasting -= FAILED(status), status;
+  }
+  HRESULT end(int& lasting, const std::string& name) {
+    --lasting;
+    out_of_order = out_of_order || lasting < 0;
+    return step(name);
+  }
   std::string take_log() { return std::exchange(log, {}); }
 
   int held = 0;  // references that others hold on the container's objects
+  int in_place = 0, with_ui = 0;
+  bool out_of_order = false;
   int calls = 0, special_call = 0;
   HRESULT failure = S_OK;
   std::function<void()> interruption;
@@ -62,6 +75,7 @@ struct Frame final : Counted<IOleInPlaceFrame> {
     if (const auto object = std::exchange(active_, nullptr)) object->Release();
   }
   HRESULT WINAPI SetActiveObject(IOleInPlaceActiveObject* object, LPCOLESTR) override {
+    happenings_.out_of_order = happenings_.out_of_order || (object && !happenings_.with_ui);
     const HRESULT status = happenings_.step(name_ + (object ? ".SetActiveObject" : ".ClearActiveObject"));
     if (FAILED(status)) return status;
     forget();
@@ -117,8 +131,8 @@ struct StrictContainer final
     return *window = FAILED(status) ? nullptr : form, status;
   }
   HRESULT WINAPI CanInPlaceActivate() override { return step("CanInPlaceActivate"); }
-  HRESULT WINAPI OnInPlaceActivate() override { return step("OnInPlaceActivate"); }
-  HRESULT WINAPI OnUIActivate() override { return step("OnUIActivate"); }
+  HRESULT WINAPI OnInPlaceActivate() override { return begin(in_place, "OnInPlaceActivate"); }
+  HRESULT WINAPI OnUIActivate() override { return begin(with_ui, "OnUIActivate"); }
   HRESULT WINAPI GetWindowContext(IOleInPlaceFrame** frame, IOleInPlaceUIWindow** document, LPRECT place,
                                   LPRECT clip, LPOLEINPLACEFRAMEINFO) override {
     const HRESULT status = step("GetWindowContext");
@@ -127,17 +141,17 @@ struct StrictContainer final
     (*document = &document_)->AddRef();
     return *place = *clip = position, S_OK;
   }
-  HRESULT WINAPI OnUIDeactivate(BOOL) override { return step("OnUIDeactivate"); }
-  HRESULT WINAPI OnInPlaceDeactivate() override { return step("OnInPlaceDeactivate"); }
+  HRESULT WINAPI OnUIDeactivate(BOOL) override { return end(with_ui, "OnUIDeactivate"); }
+  HRESULT WINAPI OnInPlaceDeactivate() override { return end(in_place, "OnInPlaceDeactivate"); }
   HRESULT WINAPI TranslateAccelerator(MSG*, DWORD) override { return step("TranslateAccelerator"); }
   HRESULT WINAPI OnFocus(BOOL focus) override { return step(focus ? "Focus" : "NoFocus"); }
   HRESULT WINAPI Invoke(DISPID id, REFIID, LCID, WORD, DISPPARAMS*, VARIANT* result, EXCEPINFO*,
                         UINT*) override {
     const HRESULT status = step("Ambient");
     if (FAILED(status)) return status;
-    V_VT(result) = id == DISPID_AMBIENT_USERMODE ? VT_BOOL : VT_I4;
+    V_VT(result) = id == DISPID_AMBIENT_USERMODE ? VT_BOOL : VT_UI4;  // .NET gives colours so
     if (id == DISPID_AMBIENT_USERMODE) return V_BOOL(result) = user_mode ? VARIANT_TRUE : VARIANT_FALSE, S_OK;
-    return V_I4(result) = static_cast<LONG>(background), id == DISPID_AMBIENT_BACKCOLOR ? S_OK : E_FAIL;
+    return V_UI4(result) = background, id == DISPID_AMBIENT_BACKCOLOR ? S_OK : E_FAIL;
   }
   void WINAPI OnDataChange(FORMATETC*, STGMEDIUM*) override { step("OnDataChange"); }
   void WINAPI OnViewChange(DWORD, LONG) override { step("OnViewChange"); }
