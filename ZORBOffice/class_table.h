@@ -2,7 +2,7 @@
 #pragma once
 
 #include <windows.h>
-#include <ole2.h>
+#include <unknwn.h>
 
 #include <span>
 
@@ -25,11 +25,6 @@ struct ClassRow {
   DefaultInterface default_interface;
   IID event_interface_id;
 };
-
-// What containers ask of a control before they load it; the registry says the same.
-inline constexpr DWORD control_misc_status = OLEMISC_RECOMPOSEONRESIZE | OLEMISC_CANTLINKINSIDE |
-                                             OLEMISC_INSIDEOUT | OLEMISC_ACTIVATEWHENVISIBLE |
-                                             OLEMISC_SETCLIENTSITEFIRST;
 
 // The table, empty until load_class_table() has succeeded.
 std::span<const ClassRow> class_table() noexcept;

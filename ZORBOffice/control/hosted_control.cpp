@@ -47,8 +47,8 @@ IUnknown* HostedControl::find(REFIID id) noexcept {
       {IID_IProvideClassInfo2, static_cast<IProvideClassInfo2*>(&class_information_)},
       {IID_ISpecifyPropertyPages, static_cast<ISpecifyPropertyPages*>(&class_information_)},
       {IID_ISupportErrorInfo, static_cast<ISupportErrorInfo*>(&class_information_)},
-      {IID_IQuickActivate, static_cast<IQuickActivate*>(&quick_activation_)},
-      {IID_IObjectWithSite, static_cast<IObjectWithSite*>(&quick_activation_)},
+      // Not IObjectWithSite: script engines would hand over their site, and never take it back.
+      {IID_IQuickActivate, &quick_activation_},
   };
   const auto found = std::ranges::find_if(parts, [&](const auto& part) { return part.id == id; });
   return found == std::end(parts) ? nullptr : found->part;

@@ -6,6 +6,7 @@
 
 #include "ZORBOffice/class_table.h"
 #include "ZORBOffice/control/hosted_control.h"
+#include "ZORBOffice/registration_values.h"
 
 namespace zorboffice {
 
@@ -133,7 +134,7 @@ HRESULT OleObject::EnumAdvise(IEnumSTATDATA** connections) noexcept {
 
 HRESULT OleObject::GetMiscStatus(DWORD aspect, DWORD* status) noexcept {
   if (!status) return E_POINTER;
-  *status = aspect == DVASPECT_CONTENT ? control_misc_status : 0;
+  *status = aspect == DVASPECT_CONTENT ? misc_status : 0;
   return S_OK;
 }
 

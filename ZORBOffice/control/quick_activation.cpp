@@ -1,14 +1,14 @@
 #include "ZORBOffice/control/quick_activation.h"
 
-#include "ZORBOffice/class_table.h"
 #include "ZORBOffice/control/hosted_control.h"
+#include "ZORBOffice/registration_values.h"
 
 namespace zorboffice {
 
 HRESULT QuickActivation::QuickActivate(QACONTAINER* container, QACONTROL* control) noexcept {
   if (!container || !control) return E_POINTER;
   const auto kept = control_.alive();
-  *control = {sizeof *control, control_misc_status, View::status, 0, 0, 0};
+  *control = {sizeof *control, misc_status, View::status, 0, 0, 0};
   control_.ole_object().SetClientSite(container->pClientSite);
   control_.site().set_ambient_properties((container->dwAmbientFlags & QACONTAINER_USERMODE) != 0,
                                          container->colorBack);
@@ -31,19 +31,6 @@ HRESULT QuickActivation::GetContentExtent(LPSIZEL extent) noexcept {
   if (!extent) return E_POINTER;
   *extent = control_.extent();
   return S_OK;
-}
-
-HRESULT QuickActivation::SetSite(IUnknown* site) noexcept {
-  const auto kept = control_.alive();
-  site_ = ComPtr<IUnknown>(site);
-  return S_OK;
-}
-
-HRESULT QuickActivation::GetSite(REFIID id, void** site) noexcept {
-  if (!site) return E_POINTER;
-  *site = nullptr;
-  const ComPtr<IUnknown> kept = site_;
-  return kept ? kept->QueryInterface(id, site) : E_FAIL;
 }
 
 }  // namespace zorboffice

@@ -42,8 +42,7 @@ TEST(Interfaces, are_those_that_containers_ask_for_and_no_promise_of_safety) {
                        IID_IConnectionPointContainer,
                        IID_ISpecifyPropertyPages,
                        IID_IQuickActivate,
-                       IID_ISupportErrorInfo,
-                       IID_IObjectWithSite};
+                       IID_ISupportErrorInfo};
   for (const auto& ids : classes) {
     const auto control = outside::create(ids);
     ComPtr<IUnknown> identity, face, back;
@@ -54,7 +53,7 @@ TEST(Interfaces, are_those_that_containers_ask_for_and_no_promise_of_safety) {
       EXPECT_EQ(back, identity) << &id - known;
       EXPECT_EQ(face->QueryInterface(outside::guid(ids.interface_id), &back), S_OK) << &id - known;
     }
-    for (const IID& id : {IID_IObjectSafety, IID_IOleInPlaceObjectWindowless, GUID_NULL})
+    for (const IID& id : {IID_IObjectSafety, IID_IObjectWithSite, IID_IOleInPlaceObjectWindowless, GUID_NULL})
       EXPECT_EQ(control->QueryInterface(id, &face), E_NOINTERFACE);
   }
 }
