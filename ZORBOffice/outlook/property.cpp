@@ -106,10 +106,6 @@ const Property* find_readable(std::span<const Property> properties, BSTR key) {
   return find(properties, key, [](const Property& property) { return property.format != nullptr; });
 }
 
-const Property* find_writable(std::span<const Property> properties, BSTR key) {
-  return find(properties, key, [](const Property& property) { return property.conversion != nullptr; });
-}
-
 Bstr read_property(std::span<const Property> properties, const AutomationObject& item, BSTR key,
                    const wchar_t* unknown_key) {
   const AutomationObject held = item;
@@ -122,7 +118,8 @@ Bstr read_property(std::span<const Property> properties, const AutomationObject&
 void write_property(std::span<const Property> properties, const AutomationObject& item, BSTR key, BSTR value,
                     const wchar_t* unknown_key) {
   const AutomationObject held = item;
-  const Property* property = find_writable(properties, key);
+  const Property* property =
+      find(properties, key, [](const Property& row) { return row.conversion != nullptr; });
   if (property) return property->conversion->write(held, property->member, value);
   show_message(concatenated({unknown_key, view(key)}));
 }

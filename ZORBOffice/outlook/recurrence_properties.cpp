@@ -27,6 +27,8 @@ constinit const Format as_exception_list = {
 
 // recurrence.cpp warns of what is out of bounds, and writes the replacement.
 constinit const Conversion from_day = {"1 to 31; otherwise a warning, and 1", write_int16};
+constinit const Conversion from_month = {
+    "1 to 31; otherwise a warning, and 1 (Outlook itself refuses 13 to 31)", write_int16};
 constinit const Conversion from_mask = {"1 to 127; above, a warning and 127; below, a warning and 2",
                                         write_int16};
 constinit const Conversion from_type = {"0, 1, 2, 3, 5 or 6; otherwise a warning, and 0", write_int16};
@@ -39,7 +41,7 @@ constexpr Property pattern_rows[] = {
     {L"EndTime", L"EndTime", &as_date_time, &from_date},
     {L"Interval", L"Interval", &as_decimal, &from_int16},
     {L"Instance", L"Instance", &as_decimal, &from_int16},
-    {L"MonthOfYear", L"MonthOfYear", &as_decimal, &from_day},
+    {L"MonthOfYear", L"MonthOfYear", &as_decimal, &from_month},
     {L"NoEndDate", L"NoEndDate", &as_flag, &from_flag},
     {L"Occurrences", L"Occurrences", &as_decimal, &from_int16},
     {L"PatternEndDate", L"PatternEndDate", &as_date, &from_date},

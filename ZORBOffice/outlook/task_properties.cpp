@@ -21,17 +21,16 @@ constexpr Status statuses[] = {
 };
 
 // A number that has no text stands for itself.
-constinit const Format as_status = {"one of the five status texts",
-                                    [](const AutomationObject& item, const wchar_t* member) {
-                                      const LONG number = item.typed().get(member).int32();
-                                      const auto* row = std::ranges::find(statuses, number, &Status::number);
-                                      return row == std::end(statuses) ? decimal(number) : Bstr(row->text);
-                                    }};
+constinit const Format as_status = {
+    "`Completed`, `Deferred`, `In Progress`, `Not Started` or `Waiting on someone else`",
+    [](const AutomationObject& item, const wchar_t* member) {
+      const LONG number = item.typed().get(member).int32();
+      const auto* row = std::ranges::find(statuses, number, &Status::number);
+      return row == std::end(statuses) ? decimal(number) : Bstr(row->text);
+    }};
 
 constinit const Conversion from_status = {
-    "`Completed`, `Deferred`, `In Progress`, `Not Started` or `Waiting on someone else`; another text is "
-    "said "
-    "in a box and not written",
+    "one of the five status texts; another text is said in a box and not written",
     [](const AutomationObject& item, const wchar_t* member, BSTR value) {
       const auto* row = std::ranges::find(statuses, view(value), &Status::text);
       if (row == std::end(statuses)) return show_message(concatenated({L"unknown Status ", view(value)}));

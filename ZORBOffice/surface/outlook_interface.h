@@ -12,11 +12,17 @@ namespace zorboffice {
 // E_POINTER.
 //
 // Property keys are compared exactly; docs/outlook-properties.md lists them. An unknown key is said in a message
-// box, and a setter then returns true all the same. Writing a property does not save the item.
+// box (GetExceptionProperty says nothing), and a setter that returns a flag then returns true all the same.
+// Writing a property does not save the item.
+//
+// An answer of Nothing where an item, a collection or a pattern is due is the failure "Object variable … not
+// set" (91), and the earlier object stays.
 //
 // Every trap records the failure; OpenItem, InitItems, SaveEmailAttachment, GetFirstItem, GetNextItem,
-// NewEmail, SetRecurrenceProperty and the contact and task property members also show a message box. The last
-// two members have no trap.
+// NewEmail, SetRecurrenceProperty and the contact and task property members also show a message box. The boxes
+// of SaveEmailAttachment and SetRecurrenceProperty show facts of the current item: where those cannot be read,
+// as without a current item, that failure reaches the host instead, unseen and not recorded. The last two
+// members have no trap.
 struct OutlookInterface : IDispatch {
   // Starts a session with Outlook.
   virtual HRESULT STDMETHODCALLTYPE StartOutlook(VARIANT_BOOL* result) noexcept = 0;
@@ -35,7 +41,8 @@ struct OutlookInterface : IDispatch {
   virtual HRESULT STDMETHODCALLTYPE OpenItem(BSTR EntryType, VARIANT_BOOL* result) noexcept = 0;
 
   // Fills the entry type's collection from its default folder, restricted by Condition unless that is empty,
-  // sorted. Also knows "Sent Items" and "Deleted " followed by an entry type.
+  // sorted. Also knows "Sent Items" and, in the folder's own order and of all kinds, "Deleted " followed by an
+  // entry type.
   virtual HRESULT STDMETHODCALLTYPE InitItems(BSTR EntryType, BSTR Condition,
                                               VARIANT_BOOL* result) noexcept = 0;
 
