@@ -114,9 +114,9 @@ HRESULT DataObject::EnumDAdvise(IEnumSTATDATA** connections) noexcept {
   return advice_ ? advice_->EnumAdvise(connections) : S_OK;
 }
 
-void DataObject::notify() noexcept {
+void DataObject::notify(DWORD flags) noexcept {
   const ComPtr<IDataAdviseHolder> advice = advice_;
-  if (advice) advice->SendOnDataChange(this, 0, 0);
+  if (advice) advice->SendOnDataChange(this, 0, flags);
 }
 
 }  // namespace zorboffice

@@ -24,8 +24,9 @@ class DataObject final : public Part<IDataObject> {
   HRESULT STDMETHODCALLTYPE DUnadvise(DWORD connection) noexcept override;
   HRESULT STDMETHODCALLTYPE EnumDAdvise(IEnumSTATDATA** connections) noexcept override;
 
-  // Tells everybody who asked for it that the picture has changed.
-  void notify() noexcept;
+  // Tells everybody who asked for it that the picture has changed; flags: ADVF_DATAONSTOP when the control
+  // closes, or 0.
+  void notify(DWORD flags = 0) noexcept;
 
  private:
   ComPtr<IDataAdviseHolder> advice_;

@@ -12,7 +12,7 @@ constexpr LONG himetric_per_inch = 2540;
 constexpr LONG pixels_per_inch = 96;
 constexpr LONG largest_extent = 1'000'000;  // ten metres: beyond that, device coordinates overflow
 
-constexpr bool is_sensible(LONG length) { return length > 0 && length <= largest_extent; }
+constexpr bool is_sensible(LONG length) { return length >= 0 && length <= largest_extent; }
 
 LONG himetric(LONG pixels) { return MulDiv(pixels, himetric_per_inch, pixels_per_inch); }
 LONG pixels(LONG length) { return std::max(MulDiv(length, pixels_per_inch, himetric_per_inch), 1); }

@@ -37,6 +37,7 @@ class HostedControl {
   InPlace& in_place() { return in_place_; }
   OleObject& ole_object() { return ole_object_; }
   View& view() { return view_; }
+  DataObject& data_object() { return data_object_; }
   ConnectionPoints& connection_points() { return connection_points_; }
 
   // Keeps the instance alive while the result is.

@@ -2,6 +2,7 @@
 
 #include <ocidl.h>
 
+#include <algorithm>
 #include <utility>
 
 #include "ZORBOffice/control/hosted_control.h"
@@ -145,15 +146,14 @@ HRESULT InPlace::hide() noexcept {
 
 void InPlace::redraw() noexcept { window_.redraw(); }
 
-void InPlace::paint(HDC dc, const RECT& client) noexcept {
-  const SIZE pixels = {MulDiv(client.right, 96, GetDeviceCaps(dc, LOGPIXELSX)),
-                       MulDiv(client.bottom, 96, GetDeviceCaps(dc, LOGPIXELSY))};
-  control_.draw(dc, client, pixels);
+void InPlace::paint(HDC dc, const RECT& client, int dots_per_inch) noexcept {
+  const auto pixels = [&](LONG dots) { return std::max(MulDiv(dots, 96, dots_per_inch), 1); };
+  control_.draw(dc, client, {pixels(client.right), pixels(client.bottom)});
 }
 
 void InPlace::on_click() noexcept {
   // A form designer selects with the mouse; the control is not to take the click for itself.
-  if (ui_active_ || !control_.site().user_mode()) return;
+  if (!control_.site().user_mode()) return;
   const auto kept = control_.alive();
   if (site_) make_ui_active();
 }

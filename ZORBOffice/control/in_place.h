@@ -46,7 +46,7 @@ class InPlace final : public Part<IOleInPlaceObject, IOleInPlaceActiveObject>, p
   void redraw() noexcept;
 
  private:
-  void paint(HDC dc, const RECT& client) noexcept override;
+  void paint(HDC dc, const RECT& client, int dots_per_inch) noexcept override;
   void on_click() noexcept override;
   void on_focus(bool focused) noexcept override;
 

@@ -32,6 +32,7 @@ HRESULT OleObject::Close(DWORD save_option) noexcept {
   const ComPtr<IOleClientSite> client = control_.site().client();
   // There is nothing to ask a user about: prompting is saving.
   if (save_option != OLECLOSE_NOSAVE && control_.is_dirty() && client) client->SaveObject();
+  control_.data_object().notify(ADVF_DATAONSTOP);
   const ComPtr<IOleAdviseHolder> advice = advice_;
   if (advice) advice->SendOnClose();
   return S_OK;

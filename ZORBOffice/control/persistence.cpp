@@ -1,5 +1,7 @@
 #include "ZORBOffice/control/persistence.h"
 
+#include <utility>
+
 #include "ZORBOffice/class_table.h"
 #include "ZORBOffice/common/com_ptr.h"
 #include "ZORBOffice/common/variant.h"
@@ -94,8 +96,9 @@ HRESULT Persistence::Load(IStorage* storage) noexcept {
   return stream ? Load(stream.get()) : E_UNEXPECTED;
 }
 
-HRESULT Persistence::Save(IStorage* storage, BOOL) noexcept {
+HRESULT Persistence::Save(IStorage* storage, BOOL same_as_load) noexcept {
   if (!storage) return E_POINTER;
+  saved_in_place_ = same_as_load != FALSE;
   const auto kept = control_.alive();
   ComPtr<IStream> stream;
   const HRESULT status = storage->CreateStream(stream_name, STGM_WRITE | STGM_SHARE_EXCLUSIVE | STGM_CREATE,
@@ -104,10 +107,11 @@ HRESULT Persistence::Save(IStorage* storage, BOOL) noexcept {
   return stream ? write(*stream.get(), control_.extent()) : E_UNEXPECTED;
 }
 
-// Only now is it certain that the container kept what was saved.
-HRESULT Persistence::SaveCompleted(IStorage*) noexcept {
+// Only now is it certain that the container kept what was saved. A copy that it made leaves the original as
+// it was.
+HRESULT Persistence::SaveCompleted(IStorage* storage) noexcept {
   const auto kept = control_.alive();
-  control_.set_clean();
+  if (std::exchange(saved_in_place_, false) || storage) control_.set_clean();
   control_.ole_object().notify_saved();
   return S_OK;
 }
@@ -123,6 +127,7 @@ HRESULT Persistence::Load(IPropertyBag* bag, IErrorLog* log) noexcept {
     const HRESULT status = bag->Read(extent_names[i], value.receive(), log);
     if (status == E_INVALIDARG) continue;  // the bag has no such property
     if (FAILED(status)) return status;
+    if (value.type() == VT_EMPTY || value.type() == VT_NULL) continue;  // some bags say it so
     Variant length;
     if (FAILED(VariantChangeType(length.receive(), &value.get(), 0, VT_I4))) return STG_E_DOCFILECORRUPT;
     lengths[i] = V_I4(&length.get());

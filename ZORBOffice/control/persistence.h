@@ -27,7 +27,7 @@ class Persistence final : public Part<IPersistStreamInit, IPersistStorage, IPers
   HRESULT STDMETHODCALLTYPE InitNew(IStorage* storage) noexcept override;
   HRESULT STDMETHODCALLTYPE Load(IStorage* storage) noexcept override;
   HRESULT STDMETHODCALLTYPE Save(IStorage* storage, BOOL same_as_load) noexcept override;
-  HRESULT STDMETHODCALLTYPE SaveCompleted(IStorage*) noexcept override;
+  HRESULT STDMETHODCALLTYPE SaveCompleted(IStorage* storage) noexcept override;
   HRESULT STDMETHODCALLTYPE HandsOffStorage() noexcept override { return S_OK; }
 
   // IPersistPropertyBag: the properties "_ExtentX" and "_ExtentY". An empty bag means the default extent.
@@ -36,6 +36,8 @@ class Persistence final : public Part<IPersistStreamInit, IPersistStorage, IPers
 
  private:
   HRESULT take(SIZEL extent) noexcept;
+
+  bool saved_in_place_ = false;  // into the storage that it was loaded from, as yet uncompleted
 };
 
 }  // namespace zorboffice

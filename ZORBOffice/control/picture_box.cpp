@@ -65,13 +65,13 @@ class Canvas {
   void stretch(const Picture& picture, const RECT& area, const RECT& clip) const {
     const RECT seen = units_of(clip);
     const RECT units = units_of(area);
-    const int state = SaveDC(dc_);
+    SaveDC(dc_);
     IntersectClipRect(dc_, seen.left, seen.top, seen.right, seen.bottom);
     SetStretchBltMode(dc_, COLORONCOLOR);
     StretchDIBits(dc_, units.left, units.top, units.right - units.left, units.bottom - units.top, 0, 0,
                   picture.header.biWidth, picture.header.biHeight, picture.bits, picture.information(),
                   DIB_RGB_COLORS, SRCCOPY);
-    RestoreDC(dc_, state);
+    RestoreDC(dc_, -1);  // in a metafile a level by its number would be the player's
   }
 
  private:

@@ -10,8 +10,10 @@ HRESULT QuickActivation::QuickActivate(QACONTAINER* container, QACONTROL* contro
   const auto kept = control_.alive();
   *control = {sizeof *control, misc_status, View::status, 0, 0, 0};
   control_.ole_object().SetClientSite(container->pClientSite);
+  // What the site itself answers goes before the record, which not every container fills.
   control_.site().set_ambient_properties((container->dwAmbientFlags & QACONTAINER_USERMODE) != 0,
                                          container->colorBack);
+  control_.site().read_ambient_properties();
   // Only what the oldest containers hand over is looked at: their record is shorter. A sink that cannot be
   // connected has the cookie 0; the control is activated all the same.
   ConnectionPoints& points = control_.connection_points();

@@ -37,7 +37,7 @@ class View final : public Part<IViewObjectEx> {
                                              DVEXTENTINFO* information, LPSIZEL extent) noexcept override;
 
   // The box covers all of its rectangle, the inside with one colour.
-  static constexpr DWORD status = VIEWSTATUS_OPAQUE | VIEWSTATUS_SOLIDBKGND | VIEWSTATUS_DVASPECTOPAQUE;
+  static constexpr DWORD status = VIEWSTATUS_OPAQUE | VIEWSTATUS_SOLIDBKGND;
 
   // Tells the sink of SetAdvise that the picture has changed.
   void notify() noexcept;

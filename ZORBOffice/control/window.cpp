@@ -17,23 +17,39 @@ class WindowClass {
   }
 
   void register_once(WNDPROC procedure) {
-    if (std::exchange(registered_, true)) return;
+    // Apartments may make their first windows at the same time.
+    AcquireSRWLockExclusive(&lock_);
+    if (!registered_) registered_ = register_class(procedure);
+    ReleaseSRWLockExclusive(&lock_);
+  }
+
+  static constexpr wchar_t name[] = L"ZORBOfficeControl";
+
+ private:
+  static bool register_class(WNDPROC procedure) {
     WNDCLASSW window_class = {};
     window_class.style = CS_HREDRAW | CS_VREDRAW | CS_DBLCLKS;
     window_class.lpfnWndProc = procedure;
     window_class.hInstance = module_handle();
     window_class.hCursor = LoadCursorW(nullptr, IDC_ARROW);
     window_class.lpszClassName = name;
-    RegisterClassW(&window_class);
+    return RegisterClassW(&window_class) != 0;
   }
 
-  static constexpr wchar_t name[] = L"ZORBOfficeControl";
-
- private:
+  SRWLOCK lock_ = SRWLOCK_INIT;
   bool registered_ = false;
 };
 
 WindowClass window_class;
+
+// Windows 10 knows the scale of the monitor that shows the window, earlier ones that of the system.
+int dots_per_inch(HWND window, HDC dc) {
+  using GetDpiForWindow = UINT(WINAPI*)(HWND);
+  const auto of_window =
+      reinterpret_cast<GetDpiForWindow>(GetProcAddress(GetModuleHandleW(L"user32.dll"), "GetDpiForWindow"));
+  const UINT found = of_window ? of_window(window) : 0;
+  return found ? static_cast<int>(found) : GetDeviceCaps(dc, LOGPIXELSX);
+}
 
 }  // namespace
 
@@ -112,7 +128,7 @@ LRESULT Window::receive(UINT message, WPARAM first, LPARAM second) noexcept {
       if (!dc) return 0;
       RECT client = {};
       GetClientRect(handle, &client);
-      owner_.paint(dc, client);
+      owner_.paint(dc, client, dots_per_inch(handle, dc));
       if (!sent) EndPaint(handle, &paint);
       return 0;
     }

@@ -8,7 +8,7 @@ namespace zorboffice {
 // Who draws the window and hears of it.
 class WindowOwner {
  public:
-  virtual void paint(HDC dc, const RECT& client) noexcept = 0;
+  virtual void paint(HDC dc, const RECT& client, int dots_per_inch) noexcept = 0;
   virtual void on_click() noexcept = 0;
   virtual void on_focus(bool focused) noexcept = 0;
 

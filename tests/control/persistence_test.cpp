@@ -68,7 +68,7 @@ TEST(Persistence, refuses_what_is_damaged_and_stays_usable) {
   std::vector<std::pair<std::string, HRESULT>> rows;
   for (size_t length = 0; length < record.size(); ++length)
     rows.emplace_back(record.substr(0, length), STG_E_READFAULT);
-  for (const char* extent : {"\0\0\0\0", "\xFF\xFF\xFF\xFF", "\xFF\xFF\xFF\x7F"}) {
+  for (const char* extent : {"\xFF\xFF\xFF\xFF", "\xFF\xFF\xFF\x7F"}) {
     rows.emplace_back(record.substr(0, 4) + std::string(extent, 4) + record.substr(8), STG_E_DOCFILECORRUPT);
     rows.emplace_back(record.substr(0, 8) + std::string(extent, 4), STG_E_DOCFILECORRUPT);
   }
@@ -100,7 +100,7 @@ TEST(Persistence, takes_an_empty_bag_for_the_defaults_and_refuses_a_wrong_one) {
   } rows[] = {{{}, S_OK, S_OK, 741},
               {{{L"_ExtentX", L"900"}}, S_OK, S_OK, 900},
               {{{L"_ExtentX", L"wide"}}, S_OK, STG_E_DOCFILECORRUPT, 2222},
-              {{{L"_ExtentX", L"900"}, {L"_ExtentY", L"0"}}, S_OK, STG_E_DOCFILECORRUPT, 2222},
+              {{{L"_ExtentX", L"900"}, {L"_ExtentY", L"-1"}}, S_OK, STG_E_DOCFILECORRUPT, 2222},
               {{}, E_ACCESSDENIED, E_ACCESSDENIED, 2222}};
   for (const auto& [texts, failure, status, width] : rows) {
     Bag bag;
