@@ -170,6 +170,30 @@ TEST_F(State, ControlsShareNothingAndGoOnAfterStopping) {
   EXPECT_EQ(office_.live, 13) << "application, namespace, pattern, a collection and an item of each kind";
 }
 
+TEST_F(State, MembersFailAsOfADeadServerOnceOutlookHasQuit) {
+  make_ready();
+  expect(L"StopOutlook", {true}, "bool -1");
+  const std::string gone = "The remote server machine does not exist or is unavailable";
+  for (const auto& [path, member, arguments, result, boxes] :
+       {std::tuple{"NameSpace.GetDefaultFolder", L"InitItems", Arguments{L"Email", L"[A]=1"}, "bool 0",
+                   "init items Email [A]=1 " + gone},
+        {"TaskItems.GetFirst", L"GetFirstItem", {L"Task"}, "bool 0", "first item " + gone},
+        {"TaskItems.Count", L"GetItemCount", {L"Task"}, "i2 0", ""},
+        {"Application.CreateItem", L"CreateItem", {L"Note"}, "bool 0", ""},
+        {"Note.Save", L"SaveItem", {L"Note"}, "bool 0", ""},
+        {"Task.Subject",
+         L"GetTaskProperty",
+         {L"Subject"},
+         "bstr \"\"",
+         "Get Task prop " + gone + " : Subject"},
+        {"Application.Quit", L"StopOutlook", {true}, "bool 0", ""}}) {
+    office_.refused = {{path, HRESULT_FROM_WIN32(RPC_S_SERVER_UNAVAILABLE)}};
+    expect(member, arguments, result, boxes);
+    EXPECT_EQ(last_error(), recorded(462, gone)) << path;
+  }
+  expect(L"StartOutlook", {}, "bool -1");
+}
+
 TEST_F(State, WhatTheHostDoesDuringACallCounts) {
   make_ready();
   office_.answers["Notes.Items"] = {.object = "Fresh"};
