@@ -185,7 +185,8 @@ std::string describe(const VARIANT& value) {
   if (V_ISBYREF(&value)) {
     if (!value.byref) return "&null";
     if (value.vt == (VT_BYREF | VT_VARIANT)) return "&variant " + describe(*value.pvarVal);
-    if (value.vt & VT_ARRAY) return *value.pparray ? "&array" : "&array never dimensioned";
+    if (value.vt == (VT_BYREF | VT_ARRAY | VT_VARIANT))
+      return *value.pparray ? "&array" : "&array never dimensioned";
     VariantCopyInd(&copy, const_cast<VARIANT*>(&value));
     return "&" + describe(_variant_t(copy, false));
   }
