@@ -1,37 +1,16 @@
 // ZORBWord over LibreOffice: what finding, replacing and tables do to a real document, and what the user is
 // told.
-#include <gmock/gmock.h>
-
-#include "outside/library.h"
-#include "support/late_call.h"
-#include "support/message_boxes.h"
+#include "office_host.h"
 
 namespace {
 
-using Arguments = std::vector<_variant_t>;
-
-class Office : public testing::Test {
+class Office : public OfficeHost<0> {
  protected:
   Office() {
-    EXPECT_EQ(call(L"Start"), "ui1 1");
-    EXPECT_EQ(call(L"CreateDoc"), "ui1 1");
+    expect(L"Start", {}, "ui1 1");
+    expect(L"CreateDoc", {}, "ui1 1");
   }
-  ~Office() {
-    call(L"StopWord", {true});
-    EXPECT_TRUE(boxes_.take().empty());
-  }
-
-  std::string call(const wchar_t* member, const Arguments& arguments = {}) {
-    return late_call(control_.Get(), member, arguments);
-  }
-
-  std::string box() {
-    const auto seen = boxes_.take();
-    return seen.size() == 1 ? seen[0].text : seen.empty() ? "" : "several";
-  }
-
-  MessageBoxes boxes_;
-  Microsoft::WRL::ComPtr<IDispatch> control_ = outside::create(outside::classes[0]);
+  ~Office() { call(L"StopWord", {true}); }
 };
 
 const std::wstring longest(255, L'x'), too_long(256, L'x');
@@ -67,8 +46,7 @@ TEST_F(Office, FindsAndSelects) {
     SCOPED_TRACE(row.text);
     const Arguments arguments = {row.text.c_str(), 1, true, true, row.match_case, row.whole_word,
                                  row.wildcards};
-    EXPECT_EQ(call(L"Search", arguments), row.result);
-    EXPECT_EQ(box(), row.message);
+    expect(L"Search", arguments, row.result, row.message);
     if (row.selected) {
       EXPECT_EQ(call(L"SelectionText"), row.selected);
     }
@@ -79,9 +57,9 @@ TEST_F(Office, SearchesOnFromTheSelectionOrFromTheTop) {
   const Arguments on = {L"one", 0}, from_top = {L"one", 0, true, true};
   call(L"SendText", {L"one two one"});
   EXPECT_EQ(call(L"Search", on), "ui1 0") << "the selection is at the end";
-  EXPECT_EQ(call(L"Search", from_top), "ui1 1");
-  EXPECT_EQ(call(L"Search", on), "ui1 1");
-  EXPECT_EQ(call(L"Search", on), "ui1 0");
+  expect(L"Search", from_top, "ui1 1");
+  expect(L"Search", on, "ui1 1");
+  expect(L"Search", on, "ui1 0");
 }
 
 TEST_F(Office, ReplacesNoneOneOrAll) {
@@ -92,13 +70,11 @@ TEST_F(Office, ReplacesNoneOneOrAll) {
     SCOPED_TRACE(option);
     call(L"Search", {L"a", 1, true, true});
     call(L"CursorLeft", {1});
-    EXPECT_EQ(call(L"Replace", {L"a", L"c", 1, true, true, false, false, false, false, false, option}),
-              "ui1 1");
-    EXPECT_EQ(call(L"ReadText", {0, 0}), text);
+    expect(L"Replace", {L"a", L"c", 1, true, true, false, false, false, false, false, option}, "ui1 1");
+    expect(L"ReadText", {0, 0}, text);
   }
-  EXPECT_EQ(call(L"Replace", {L"a", L"c"}), "ui1 0");
-  EXPECT_EQ(call(L"Replace", {too_long.c_str(), L"c"}), "ui1 0");
-  EXPECT_EQ(box(), "") << "Replace fails in silence";
+  expect(L"Replace", {L"a", L"c"}, "ui1 0");
+  expect(L"Replace", {too_long.c_str(), L"c"}, "ui1 0");  // in silence
 }
 
 TEST_F(Office, ReplacesWhateverTheTextHolds) {
@@ -122,70 +98,52 @@ TEST_F(Office, ReplacesWhateverTheTextHolds) {
     SCOPED_TRACE(row.text);
     const Arguments arguments = {row.text.c_str(), row.by.c_str(), 1,     true, true, false, false,
                                  row.wildcards,    false,          false, 2};
-    EXPECT_EQ(call(L"Replace", arguments), row.result);
-    EXPECT_EQ(call(L"ReadText", {0, 0}), row.left);
+    expect(L"Replace", arguments, row.result);
+    expect(L"ReadText", {0, 0}, row.left);
   }
 }
 
-// The demo's template has a header, a footer and a table.
-std::wstring template_path() {
-  wchar_t path[MAX_PATH];
-  GetModuleFileNameW(nullptr, path, MAX_PATH);
-  const std::wstring file = path;
-  return file.substr(0, file.rfind(L"\\build\\")) + L"\\examples\\letters.dotx";
-}
-
 TEST_F(Office, ReadsTablesSectionsHeadersAndFooters) {
-  const _variant_t file(template_path().c_str());
-  ASSERT_EQ(call(L"CreateDoc", {file}), "ui1 1");
-  EXPECT_EQ(call(L"Search", {L"<<Amount>>", 1, true, true}), "ui1 1");
-  EXPECT_EQ(call(L"InTable"), "ui1 1");
-  EXPECT_EQ(call(L"CellCount"), "i4 3");
-  EXPECT_EQ(call(L"CellText", {1}), "bstr \"<<Number>>\r\a\"");
-  EXPECT_EQ(call(L"CellText", {4}), "bstr \"\"");
-  EXPECT_EQ(box(), "CellText The requested member of the collection does not exist.");
-  EXPECT_EQ(call(L"SelectRow"), "empty");
-  EXPECT_EQ(call(L"SelectionText"), "bstr \"<<Number>>\r\a<<Amount>>\r\a<<Due>>\r\a\r\a\"");
-  EXPECT_EQ(call(L"NumberOfSections"), "i4 1");
-  EXPECT_EQ(call(L"ReadHeaderFooterText", {1, true, 1, 0, 0}),
-            "bstr \"Account statement for customer <<Number>>\r\"");
-  EXPECT_EQ(call(L"ReadHeaderFooterText", {1, false, 1, 0, 4}), "bstr \"ent\"");
-  EXPECT_EQ(call(L"ReadHeaderFooterText", {1, true, 3, 0, 0}), "bstr \"\"");
-  EXPECT_EQ(box(), "");
-  EXPECT_EQ(call(L"ReplaceHeaderFooter", {2, true, 1, L"a", L"b"}), "ui1 0");
-  EXPECT_EQ(box(), "Replace Header/Footer The requested member of the collection does not exist.");
+  expect(L"CreateDoc", {demo_template()}, "ui1 1");
+  expect(L"Search", {L"<<Amount>>", 1, true, true}, "ui1 1");
+  expect(L"InTable", {}, "ui1 1");
+  expect(L"CellCount", {}, "i4 3");
+  expect(L"CellText", {1}, "bstr \"<<Number>>\r\a\"");
+  expect(L"CellText", {4}, "bstr \"\"", "CellText The requested member of the collection does not exist.");
+  expect(L"SelectRow", {}, "empty");
+  expect(L"SelectionText", {}, "bstr \"<<Number>>\r\a<<Amount>>\r\a<<Due>>\r\a\r\a\"");
+  expect(L"NumberOfSections", {}, "i4 1");
+  expect(L"ReadHeaderFooterText", {1, true, 1, 0, 0}, "bstr \"Account statement for customer <<Number>>\r\"");
+  expect(L"ReadHeaderFooterText", {1, false, 1, 0, 4}, "bstr \"ent\"");
+  expect(L"ReadHeaderFooterText", {1, true, 3, 0, 0}, "bstr \"\"");
+  expect(L"ReplaceHeaderFooter", {2, true, 1, L"a", L"b"}, "ui1 0",
+         "Replace Header/Footer The requested member of the collection does not exist.");
 }
 
 TEST_F(Office, CopiesHeadersAndFootersIntoAnotherFile) {
-  wchar_t folder[MAX_PATH];
-  GetTempPathW(MAX_PATH, folder);
-  const _variant_t source(template_path().c_str()),
-      target((std::wstring(folder) + L"zorb_target.docx").c_str());
+  const auto source = demo_template(), target = temporary(L"target.docx");
   call(L"SendText", {L"body"});
   call(L"SaveDoc", {target});
   call(L"CloseDoc");
-  EXPECT_EQ(call(L"SetHeaderFooter", {source, target, true, true, true}), "ui1 1");
-  EXPECT_EQ(box(), "");
-  EXPECT_EQ(call(L"OpenDoc", {target}), "ui1 1");
-  EXPECT_EQ(call(L"ReadText", {0, 0}), "bstr \"body\r\"");
+  expect(L"SetHeaderFooter", {source, target, true, true, true}, "ui1 1");
+  expect(L"OpenDoc", {target}, "ui1 1");
+  expect(L"ReadText", {0, 0}, "bstr \"body\r\"");
   EXPECT_THAT(call(L"ReadHeaderFooterText", {1, true, 1, 0, 0}),
               testing::StartsWith("bstr \"Account statement for customer <<Number>>\r"));
   EXPECT_THAT(call(L"ReadHeaderFooterText", {1, false, 1, 0, 0}),
               testing::StartsWith("bstr \"Sent to <<Name>>"));
   call(L"CloseDoc");
-  EXPECT_EQ(call(L"SetHeaderFooter", {source, L"C:\\missing.docx", true, false, false}), "ui1 0");
-  EXPECT_THAT(box(), testing::StartsWith("Set Header/Footer "));
-  EXPECT_EQ(call(L"StopWord", {false}), "empty") << "nothing is left open";
-  EXPECT_EQ(call(L"SetActive", {true}), "ui1 0");
-  EXPECT_EQ(box(), "Set Active Object required");
-  EXPECT_EQ(call(L"Start"), "ui1 1");
+  expect_failure(L"SetHeaderFooter", {source, L"C:\\missing.docx", true, false, false}, "ui1 0",
+                 "Set Header/Footer ");
+  expect(L"StopWord", {false}, "empty");  // which ends it only when nothing is left open
+  expect(L"SetActive", {true}, "ui1 0", "Set Active Object required");
+  expect(L"Start", {}, "ui1 1");
   DeleteFileW(V_BSTR(&target));
 }
 
 TEST_F(Office, TellsWhatIsNotInATable) {
-  EXPECT_EQ(call(L"InTable"), "ui1 0");
-  EXPECT_EQ(call(L"CellCount"), "i4 0");
-  EXPECT_EQ(box(), "CellCount The requested member of the collection does not exist.");
+  expect(L"InTable", {}, "ui1 0");
+  expect(L"CellCount", {}, "i4 0", "CellCount The requested member of the collection does not exist.");
 }
 
 }  // namespace

@@ -1,4 +1,4 @@
-// A control of the built library over a recording office application, as the members' tests drive it.
+// A control of the built library as a host drives it, alone or over a recording office application.
 #pragma once
 
 #include <utility>
@@ -30,13 +30,37 @@ inline std::string taken_boxes(MessageBoxes& boxes) {
   return all;
 }
 
-template <class Office, int class_index>
-class ControlTest : public testing::Test {
+// A control and the boxes that it shows, none of which may be left unseen.
+template <int class_index>
+class HostTest : public testing::Test {
  protected:
+  ~HostTest() { EXPECT_EQ(taken_boxes(boxes_), ""); }
+
+  // Calls `member` late bound and returns its result as the log shows values, or "raised NUMBER DESCRIPTION"
+  // with the failure that reached the host.
+  std::string call(const wchar_t* member, const Arguments& arguments = {}) {
+    return late_call(control_.Get(), member, arguments);
+  }
+
+  // Calls `member`, which must give `result` and show the boxes `boxes`, as taken_boxes() has them.
+  void expect(const wchar_t* member, const Arguments& arguments, const std::string& result,
+              const std::string& boxes = "") {
+    EXPECT_EQ(call(member, arguments), result) << utf8(member);
+    EXPECT_EQ(taken_boxes(boxes_), boxes) << utf8(member);
+  }
+
+  MessageBoxes boxes_;
+  Microsoft::WRL::ComPtr<IDispatch> control_ = outside::create(outside::classes[class_index]);
+};
+
+template <class Office, int class_index>
+class ControlTest : public HostTest<class_index> {
+ protected:
+  using HostTest<class_index>::control_;
+
   ~ControlTest() {
     end_control();
     EXPECT_EQ(office_.live, 0) << "objects of the office application are still held";
-    EXPECT_EQ(taken_boxes(boxes_), "");
   }
 
   // Ends the control, and with it all that the library holds.
@@ -53,22 +77,7 @@ class ControlTest : public testing::Test {
     control_ = outside::create(outside::classes[class_index]);
   }
 
-  // Calls `member` late bound and returns its result as the log shows values, or "raised NUMBER DESCRIPTION"
-  // with the failure that reached the host.
-  std::string call(const wchar_t* member, const Arguments& arguments = {}) {
-    return late_call(control_.Get(), member, arguments);
-  }
-
-  // Calls `member`, which must give `result` and show the boxes `boxes`, as taken_boxes() has them.
-  void expect(const wchar_t* member, const Arguments& arguments, const std::string& result,
-              const std::string& boxes = "") {
-    EXPECT_EQ(call(member, arguments), result) << utf8(member);
-    EXPECT_EQ(taken_boxes(boxes_), boxes) << utf8(member);
-  }
-
   std::string log() { return taken_log(office_); }
 
   Office office_;
-  MessageBoxes boxes_;
-  Microsoft::WRL::ComPtr<IDispatch> control_ = outside::create(outside::classes[class_index]);
 };
