@@ -15,7 +15,6 @@ Say "Paste", word.Paste
 Say "ReadText", word.ReadText(1, 3)
 units = "3"
 Say "CursorLeft", word.cursorleft(units, , 0)
-Say "units", units
 Say "SendText", word.SendText("-")
 Say "ReadText", word.ReadText(0, 0)
 Say "GotoLine", word.GotoLine(1)
@@ -28,12 +27,10 @@ Say "ReadText", word.ReadText(0, 0)
 Say "IsPrinting", word.IsPrinting
 Say "CloseDoc", word.CloseDoc(0)
 Say "GotoLine", word.GotoLine(1)
+Say "StopWord", word.StopWord(False)
 On Error Resume Next
 i = word.NumberOfSections
 Say "NumberOfSections", Err.Number & " " & Err.Description
-Err.Clear
-word.StopWord False
-Say "StopWord", Err.Number & " " & Err.Description
 Err.Clear
 word.StopWord True
 Say "StopWord", Err.Number & " " & Err.Description
