@@ -22,37 +22,30 @@ void expect_no_trace_of(const Round& round) {
   EXPECT_EQ(outside::call("DllCanUnloadNow"), S_OK);
 }
 
+template <class... Interfaces>
+std::vector<IID> ids_of() {
+  return {__uuidof(Interfaces)...};
+}
+
 TEST(Interfaces, are_those_that_containers_ask_for_and_no_promise_of_safety) {
-  const IID known[] = {IID_IOleObject,
-                       IID_IOleControl,
-                       IID_IOleWindow,
-                       IID_IOleInPlaceObject,
-                       IID_IOleInPlaceActiveObject,
-                       IID_IViewObject,
-                       IID_IViewObject2,
-                       IID_IViewObjectEx,
-                       IID_IPersist,
-                       IID_IPersistStream,
-                       IID_IPersistStreamInit,
-                       IID_IPersistStorage,
-                       IID_IPersistPropertyBag,
-                       IID_IDataObject,
-                       IID_IProvideClassInfo,
-                       IID_IProvideClassInfo2,
-                       IID_IConnectionPointContainer,
-                       IID_ISpecifyPropertyPages,
-                       IID_IQuickActivate,
-                       IID_ISupportErrorInfo};
+  const auto known = ids_of<IUnknown, IDispatch, IOleObject, IOleControl, IOleWindow, IOleInPlaceObject,
+                            IOleInPlaceActiveObject, IViewObject, IViewObject2, IViewObjectEx, IPersist,
+                            IPersistStream, IPersistStreamInit, IPersistStorage, IPersistPropertyBag,
+                            IDataObject, IProvideClassInfo, IProvideClassInfo2, IConnectionPointContainer,
+                            ISpecifyPropertyPages, IQuickActivate, ISupportErrorInfo>();
   for (const auto& ids : classes) {
     const auto control = outside::create(ids);
+    const GUID own = outside::guid(ids.interface_id);
     ComPtr<IUnknown> identity, face, back;
     control.As(&identity);
     for (const IID& id : known) {
-      ASSERT_EQ(control->QueryInterface(id, &face), S_OK) << &id - known;
+      ASSERT_EQ(control->QueryInterface(id, &face), S_OK) << &id - known.data();
       ASSERT_EQ(face.As(&back), S_OK);
-      EXPECT_EQ(back, identity) << &id - known;
-      EXPECT_EQ(face->QueryInterface(outside::guid(ids.interface_id), &back), S_OK) << &id - known;
+      EXPECT_EQ(back, identity) << &id - known.data();
+      EXPECT_EQ(face->QueryInterface(own, &back), S_OK) << &id - known.data();
+      EXPECT_EQ(as<IUnknown>(back.Get()), identity) << &id - known.data();
     }
+    EXPECT_EQ(as<ISupportErrorInfo>(control.Get())->InterfaceSupportsErrorInfo(own), S_OK);
     for (const IID& id : {IID_IObjectSafety, IID_IObjectWithSite, IID_IOleInPlaceObjectWindowless, GUID_NULL})
       EXPECT_EQ(control->QueryInterface(id, &face), E_NOINTERFACE);
   }

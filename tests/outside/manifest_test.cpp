@@ -2,7 +2,6 @@
 #include <fstream>
 
 #include "registry.h"
-#include "support/late_call.h"
 
 namespace outside {
 namespace {
@@ -117,26 +116,6 @@ TEST(Manifest, lets_hosts_create_the_controls_unregistered) {
     expect_nothing();
   }
   DeleteFileW(application.c_str());
-}
-
-TEST(Manifest, serves_script_hosts) {
-  const ActivationContext context(beside_library());
-  context.within([] {
-    CLSID id;
-    ComPtr<IDispatch> host;
-    ASSERT_EQ(CLSIDFromProgID(L"MSScriptControl.ScriptControl", &id), S_OK);
-    ASSERT_EQ(CoCreateInstance(id, nullptr, CLSCTX_INPROC_SERVER, IID_IDispatch, &host), S_OK);
-    DISPID language = 0, put = DISPID_PROPERTYPUT;
-    auto name = const_cast<LPOLESTR>(L"Language");
-    _variant_t basic(L"VBScript");
-    DISPPARAMS arguments = {&basic, &put, 1, 1};
-    ASSERT_EQ(host->GetIDsOfNames(IID_NULL, &name, 1, 0, &language), S_OK);
-    ASSERT_EQ(
-        host->Invoke(language, IID_NULL, 0, DISPATCH_PROPERTYPUT, &arguments, nullptr, nullptr, nullptr),
-        S_OK);
-    EXPECT_EQ(late_call(host.Get(), L"Eval", {L"CreateObject(\"ZORBOffice.ZORBWord\").GetLastErrorNumber"}),
-              "i4 0");
-  });
 }
 
 // Calls a member by vtable from an apartment that the control does not live in.
