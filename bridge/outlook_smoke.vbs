@@ -1,5 +1,6 @@
-' Drives the stand-in for Outlook as any client would. Its last line is "outlook_smoke.vbs: done" only if every check held:
-' Wine's script host ends without a word, and with exit code 0, at an error that nobody handles.
+' Drives the stand-in for Outlook as any client would, as far as the demo of its control does not. Its last line is
+' "outlook_smoke.vbs: done" only if every check held: Wine's script host ends without a word, and with exit code 0, at an error
+' that nobody handles.
 '   cscript //nologo outlook_smoke.vbs FOLDER      (a Windows path; what the checks write goes there)
 Option Explicit
 Const deleted_items = 3, sent_items = 5, inbox = 6, calendar = 9, contacts = 10, notes = 12, tasks = 13, drafts = 16
@@ -28,10 +29,6 @@ Sub WriteFile(path, content)
   stream.Write content
   stream.Close
 End Sub
-
-Function ReadFile(path)
-  ReadFile = files.OpenTextFile(path).ReadAll
-End Function
 
 Function ItemsOf(number)
   Set ItemsOf = mapi.GetDefaultFolder(number).Items
@@ -74,17 +71,14 @@ Check "sorting starts again", items.GetNext.Subject & items.GetNext.Class & item
 Check "distribution list", ItemsOf(contacts)("list 2").Class, 69
 Check "folder", mapi.GetDefaultFolder(tasks) & mapi.GetDefaultFolder(tasks).DefaultItemType & items(1).Parent.Name, "Tasks3Inbox"
 
-' Mails: seeded text and attachments, enumeration, real bytes.
+' Mails: seeded text, what is kept and what is sent.
 Set item = ItemsOf(inbox).Item(1)
 Check "text", item.Body, "Hi" & vbCrLf & "[cid:a.png@1]"
 Check "seeded", item.To & item.Recipients.Count & item.SenderName & item.ReceivedTime, "a@b.c; d@e.f2S" & #2007-01-01#
-text = ""
-For Each part In item.Attachments
-  text = text & part.FileName & part.Type & part.BlockLevel & part.DisplayName & " "
-Next
-Check "attachments", text, "a.png10a.png b.txt10b.txt "
-item.Attachments(2).SaveAsFile folder & "b.txt"
-Check "saved attachment", ReadFile(folder & "b.txt"), "B"
+With item.Attachments(2)
+  Check "attachment", .FileName & .Type & .BlockLevel & .DisplayName, "b.txt10b.txt"
+End With
+WriteFile folder & "b.txt", "B"
 Set item = outlook.CreateItem(0)
 item.HTMLBody = "<p>A &amp; B</p>"
 item.Attachments.Add folder & "b.txt", , , "Shown"
@@ -104,26 +98,20 @@ item.Display
 Check "shown", outlook.Inspectors.Count & outlook.ActiveInspector.CurrentItem.EntryID, "1"
 outlook.ActiveInspector.Close 1
 
-' The other kinds: what hangs together, kinds of values, saving, text files.
+' The other kinds: what hangs together, and kinds of values.
 Set item = outlook.CreateItem(2)
 item.FullName = "Dr. Ada Maria King"
 item.BusinessAddressCity = "London"
 item.SelectedMailingAddress = 2
 item.Save
 Check "contact", item.Title & item.FirstName & item.LastName & item.MailingAddressCity & item.Class, "Dr.AdaKingLondon40"
-item.SaveAs folder & "item.txt"
-Check "file", Left(ReadFile(folder & "item.txt"), 35), "Written by a stand-in for Outlook; "
-Check "file's contents", InStr(ReadFile(folder & "item.txt"), "FullName: Dr. Ada Maria King") > 0, True
 Set item = outlook.CreateItem(3)
 Check "no date", VarType(item.DueDate) & item.DueDate, "7" & #4501-01-01#
 item.StartDate = #2007-03-05 10:00:00#
 item.DueDate = "3/4/2007"
 item.PercentComplete = 100
 Check "task", item.StartDate & item.Status & item.Complete & VarType(item.Status), #2007-03-04# & "2True3"
-Set item = outlook.CreateItem(5)
-item.Body = "First" & vbCrLf & "second"
-item.Save
-Check "note", item.Subject & item.Class & item.MessageClass & item.Color, "First44IPM.StickyNote3"
+Check "note", outlook.CreateItem(5).Color, 3
 Set item = outlook.CreateItem(1)
 item.Start = #2007-03-05 14:30:00#
 item.End = #2007-03-05 15:15:00#
@@ -198,13 +186,7 @@ part.Start = #1997-09-17 11:00:00#
 part.Subject = "Moved"
 part.Save
 pattern.GetOccurrence(#1997-09-09 09:00:00#).Delete
-Set pattern = mapi.GetItemFromID(item.EntryID).GetRecurrencePattern
-With pattern.Exceptions
-  Check "exceptions", .Count & .Item(1).Deleted & .Item(2).Deleted & .Item(1).OriginalDate, "2TrueFalse" & #1997-09-09 09:00:00#
-  Check "changed", .Item(2).OriginalDate & .Item(2).AppointmentItem.Subject, #1997-09-16 09:00:00# & "Moved"
-End With
 Check "by its own start", pattern.GetOccurrence(#1997-09-17 11:00:00#).Subject & part.RecurrenceState, "Moved3"
-Check "one item", ItemsOf(calendar).Count & ItemsOf(calendar)(1).RecurrenceState, "11"
 
 ' Failures, with Outlook's numbers where it has its own.
 On Error Resume Next
@@ -234,7 +216,7 @@ item.EntryID = "x"
 CheckFailure "read only", 438
 item.NoSuchMember = 1
 CheckFailure "unknown member", 438
-text = ItemsOf(notes)(1).Importance
+text = outlook.CreateItem(5).Importance
 CheckFailure "not a note's", 438
 item.SaveAs folder & "missing\item.msg"
 CheckFailure "no folder", &H80070003

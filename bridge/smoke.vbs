@@ -1,5 +1,6 @@
-' Drives both object models of the bridge as any client would. Its last line is "smoke.vbs: done" only if every check
-' held: Wine's script host ends without a word, and with exit code 0, at an error that nobody handles.
+' Drives both object models of the bridge as any client would, as far as the tests of the controls do not. Its last line is
+' "smoke.vbs: done" only if every check held: Wine's script host ends without a word, and with exit code 0, at an error that
+' nobody handles.
 '   cscript //nologo smoke.vbs FOLDER PDF-FOLDER      (Windows paths; the second as given to script/bridge)
 Option Explicit
 Dim folder, pdf_folder, files, fails, smiley, third, word, document, selection, texts, each_one
@@ -36,7 +37,6 @@ With CreateObject("MSScriptControl.ScriptControl")
 End With
 third = "Third" & vbVerticalTab & "broken"
 Set word = CreateObject("Word.Application")
-Check "new session", word.Documents.Count, 0
 Set document = word.Documents.Add("")
 Set selection = document.ActiveWindow.Selection
 selection.TypeText "First line" & vbCr & "Second " & smiley & vbCrLf & third
@@ -44,7 +44,7 @@ Check "typed", document.Range().Text, "First line" & vbCr & "Second " & smiley &
 Check "range's default member", document.Range(6, 13), "line" & vbCr & "Se"
 Check "insertion point reads on", selection.Text, vbCr
 
-' Move, select, cut and paste.
+' Move and select.
 selection.GoTo 3, 1, 2
 Check "second line", selection.Start, 11
 Check "right", selection.MoveRight(1, 3, 0), 3
@@ -53,12 +53,6 @@ selection.TypeText "ON"
 Check "start of paragraph", selection.StartOf(4, 0), -5
 Check "end of paragraph", selection.EndOf(4, 0), 10
 Check "move two paragraphs back", selection.Move(4, -2), -2
-selection.Paragraphs(1).Range.Select
-Check "selected paragraph", selection.Text, "First line" & vbCr
-selection.Cut
-selection.Move 6, 1
-selection.Paste
-Check "cut and pasted", document.Range().Text, "SecONd " & smiley & vbCr & third & "First line" & vbCr & vbCr
 
 ' Save, print, close, open again.
 document.SaveAs folder & "smoke.docx"
@@ -69,11 +63,7 @@ Check "PDF", files.OpenTextFile(pdf_folder & "smoke.pdf").Read(5), "%PDF-"
 document.Close 0, 1, False
 Check "closed", word.Documents.Count, 0
 Set document = word.Documents.Open(UCase(folder) & "SMOKE.docx")
-texts = ""
-For Each each_one In document.Sections
-  texts = texts & each_one.Range.Text
-Next
-Check "opened again", texts, "SecONd " & smiley & vbCr & third & "First line" & vbCr & vbCr
+Check "opened again", document.Range().Text, "First line" & vbCr & "SecONd " & smiley & vbCr & third & vbCr
 
 ' The suite: load with an empty array, write, read, close.
 Set manager = CreateObject("com.sun.star.ServiceManager")
@@ -118,34 +108,22 @@ Do While selection.Find.Execute()
   texts = texts & selection.Start & selection.Text & " "
 Loop
 Check "hits", texts, "5NAME 11name 20Name 26NAME 34NAME 43NAME 51NAME "
-Check "search again", CStr(selection.Find.Execute("A?>", False, False, True, , , True, 1)) & selection.Text, "TrueA1"
 Check "no hit", selection.Find.Execute("A1*B1", False, False, True), False
 
-' Tables: the selection's row, the document's cells.
-Check "in the table", selection.Information(12), True
-Check "cells", selection.Rows(1).Cells.Count & selection.Rows(1).Cells(2).Range.Text, "2NAME B1" & vbCr & Chr(7)
-selection.SelectRow
-Check "row", selection.Text, Replace("NAME A1|NAME B1||", "|", vbCr & Chr(7))
-Check "home", selection.HomeKey(6) & selection.Information(12), "26False"
+selection.HomeKey 6
 Check "tables", document.Tables.Count & document.Tables(1).Cell(2, 1).Range.Text, "1NAME A2" & vbCr & Chr(7)
 
-' Replace: the next one, then all, with the arguments as the members pass them.
-Check "one", selection.Find.Execute("NAME", True, False, False, False, False, True, 1, False, "you", 1), True
-Check "replaced one", selection.Text & document.Range(0, 9).Text, "youDear you,"
+' Replace all, in the table too, by a text with marks.
 Check "all", selection.Find.Execute("name", False, False, False, False, False, True, 1, False, "<^&^t>", 2), True
-texts = "Dear you,!<name*> and <Name*>.!<NAME*> A1/<NAME*> B1//<NAME*> A2/<NAME*> B2//!"
+texts = "Dear <NAME*>,!<name*> and <Name*>.!<NAME*> A1/<NAME*> B1//<NAME*> A2/<NAME*> B2//!"
 texts = Replace(Replace(Replace(texts, "!", vbCr), "*", vbTab), "/", vbCr & Chr(7))
 Check "replaced all", Replace(document.Range().Text, vbVerticalTab, vbCr), texts
 
 ' Sections, headers and footers: what was replaced in the main text was not in them.
-Check "sections", document.Sections.Count, 1
 Set part = document.Sections(1)
-Check "all of the text", part.Range.Text, document.Range().Text
 Set header = part.Headers(1).Range
 Check "header", header.Text, "Head of NAME" & vbCr
 Check "in the header", header.Find.Execute("name", , , , , , , 1, , "Customer", 2), True
-header.SetRange 5, 16
-Check "part of the header", header.Text, "of Customer"
 Check "no footer yet", part.Footers(1).Exists & part.Footers(1).Range.Text, "True" & vbCr
 part.Footers(1).Range.Text = "Foot"
 Check "first page", part.Headers(2).Exists & document.PageSetup.DifferentFirstPageHeaderFooter, "False0"
@@ -197,23 +175,15 @@ CheckFailure "range beyond the end", 4608
 word.Documents.Open folder & "missing.docx"
 CheckFailure "missing file", 5174
 Set document = word.Documents.Add("")
-document.ActiveWindow.Selection.Find.Text = String(256, "x")
-CheckFailure "find text of 256 characters", 5854
 document.Range.Find.Execute "(", False, False, True
 CheckFailure "open group", 5560
-Set missing = document.Sections(2)
-CheckFailure "no section", 5941
 Set missing = document.Sections(1).Headers(3).Range
 CheckFailure "no header for even pages", 5941
-Set missing = document.ActiveWindow.Selection.Rows(1)
-CheckFailure "no row", 5941
 word.ActivePrinter = ""
 document.PrintOut
 CheckFailure "no printer", 5216
 component.getText
 CheckFailure "disposed component", -2147352567
-manager.Quit
-CheckFailure "no member of the suite", 438
 word.Quit
 each_one = word.Version
 CheckFailure "after Quit", 462
