@@ -37,11 +37,6 @@ class Recurrence : public PropertyTest {
   }
 };
 
-TEST_F(Recurrence, TakesEverySetOfDays) {
-  for (int days = 1; days <= 127; ++days)
-    set("DayOfWeekMask", std::to_string(days), "put Pattern.DayOfWeekMask=i4 " + std::to_string(days), "");
-}
-
 TEST_F(Recurrence, IsNotWrittenWhenItsWarningFails) {
   const std::string warning =
                         title + "The DayOfMonth is invalid 0 it will use a default value of the first day | ",

@@ -81,3 +81,15 @@ class ControlTest : public HostTest<class_index> {
 
   Office office_;
 };
+
+template <class Office, int class_index>
+class WordProcessorTest : public ControlTest<Office, class_index> {
+ protected:
+  // Replaces the control by a new one that has started the application and opened a document.
+  void make_ready() {
+    this->renew();
+    this->expect(L"Start", {}, "ui1 1");
+    this->expect(L"OpenDoc", {L"C:\\a.docx"}, "ui1 1");
+    this->log();
+  }
+};
