@@ -3,11 +3,8 @@
 
 #include <utility>
 
-#include "fake_object.h"
 #include "late_call.h"
 #include "message_boxes.h"
-#include "outside/library.h"
-#include "text.h"
 
 using Arguments = std::vector<_variant_t>;
 

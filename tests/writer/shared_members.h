@@ -4,8 +4,9 @@
 #include <algorithm>
 #include <set>
 
+#include <comutil.h>
+
 #include "outside/members.h"
-#include "support/late_call.h"
 
 struct SharedMember {
   std::wstring name;
