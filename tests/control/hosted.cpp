@@ -8,6 +8,15 @@ ComPtr<IStream> stream_of(const std::string& bytes) {
   return stream;
 }
 
+ComPtr<IStorage> new_storage() {
+  ComPtr<IStorage> made;
+  EXPECT_EQ(
+      StgCreateDocfile(nullptr, STGM_CREATE | STGM_READWRITE | STGM_SHARE_EXCLUSIVE | STGM_DELETEONRELEASE, 0,
+                       &made),
+      S_OK);
+  return made;
+}
+
 HRESULT draw(IUnknown* control, HDC dc, RECTL bounds, DWORD aspect, LONG index) {
   return as<IViewObject>(control)->Draw(aspect, index, nullptr, nullptr, nullptr, dc, &bounds, nullptr,
                                         nullptr, 0);

@@ -37,6 +37,7 @@ struct Bag final : IPropertyBag {
 };
 
 ComPtr<IStream> stream_of(const std::string& bytes);
+ComPtr<IStorage> new_storage();
 HRESULT draw(IUnknown* control, HDC dc, RECTL bounds, DWORD aspect = DVASPECT_CONTENT, LONG index = -1);
 HRESULT resize(IUnknown* control, LONG width, LONG height);
 

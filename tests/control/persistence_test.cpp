@@ -15,20 +15,11 @@ ComPtr<IDispatch> sized(const outside::ClassIds& ids, LONG width, LONG height) {
   return control;
 }
 
-ComPtr<IStorage> storage() {
-  ComPtr<IStorage> made;
-  EXPECT_EQ(
-      StgCreateDocfile(nullptr, STGM_CREATE | STGM_READWRITE | STGM_SHARE_EXCLUSIVE | STGM_DELETEONRELEASE, 0,
-                       &made),
-      S_OK);
-  return made;
-}
-
 TEST(Persistence, brings_the_extent_back_by_every_interface) {
   for (const auto& ids : classes) {
     const auto saved = sized(ids, 4321, 1234);
     const auto stream = stream_of("");
-    const auto file = storage();
+    const auto file = new_storage();
     Bag bag;
     const auto streaming = as<IPersistStreamInit>(saved.Get());
     const auto storing = as<IPersistStorage>(saved.Get());
@@ -77,7 +68,7 @@ TEST(Persistence, refuses_what_is_damaged_and_stays_usable) {
   for (const auto& [bytes, status] : rows) {
     const auto control = sized(classes[0], 2222, 1111), stored = sized(classes[0], 2222, 1111);
     EXPECT_EQ(as<IPersistStreamInit>(control.Get())->Load(stream_of(bytes).Get()), status) << bytes.size();
-    const auto file = storage();
+    const auto file = new_storage();
     ComPtr<IStream> stream;
     ASSERT_EQ(file->CreateStream(L"Contents", STGM_READWRITE | STGM_SHARE_EXCLUSIVE, 0, 0, &stream), S_OK);
     stream->Write(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr);
@@ -88,7 +79,7 @@ TEST(Persistence, refuses_what_is_damaged_and_stays_usable) {
       EXPECT_TRUE(is_usable(one.Get()));
     }
   }
-  EXPECT_EQ(as<IPersistStorage>(outside::create(classes[0]).Get())->Load(storage().Get()),
+  EXPECT_EQ(as<IPersistStorage>(outside::create(classes[0]).Get())->Load(new_storage().Get()),
             STG_E_FILENOTFOUND);
 }
 

@@ -25,11 +25,7 @@ TEST(Rules, only_what_was_saved_in_its_place_is_clean) {
   for (const auto& [same_as_load, into_new, dirty] : rows) {
     const auto control = outside::create(classes[1]);
     const auto storing = as<IPersistStorage>(control.Get());
-    ComPtr<IStorage> file;
-    ASSERT_EQ(
-        StgCreateDocfile(nullptr, STGM_CREATE | STGM_READWRITE | STGM_SHARE_EXCLUSIVE | STGM_DELETEONRELEASE,
-                         0, &file),
-        S_OK);
+    const auto file = new_storage();
     EXPECT_EQ(storing->InitNew(file.Get()), S_OK);
     resize(control.Get(), 3000, 3000);
     EXPECT_EQ(storing->Save(file.Get(), same_as_load), S_OK);
