@@ -44,7 +44,7 @@ std::string members(const wchar_t* names) {
 }
 
 void write_section(std::FILE* page, const Section& section) {
-  std::fprintf(
+  (void)std::fprintf(
       page, "\n## %s\n\nOf %s.\n\n| Key | Outlook's member | Read as | Written from |\n|---|---|---|---|\n",
       section.title, section.object);
   for (const Property& property : section.properties) {

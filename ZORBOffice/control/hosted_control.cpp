@@ -50,7 +50,7 @@ IUnknown* HostedControl::find(REFIID id) noexcept {
       // Not IObjectWithSite: script engines would hand over their site, and never take it back.
       {IID_IQuickActivate, &quick_activation_},
   };
-  const auto found = std::ranges::find_if(parts, [&](const auto& part) { return part.id == id; });
+  const auto* const found = std::ranges::find_if(parts, [&](const auto& part) { return part.id == id; });
   return found == std::end(parts) ? nullptr : found->part;
 }
 

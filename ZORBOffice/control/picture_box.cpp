@@ -95,20 +95,20 @@ RECT centred(const BITMAPINFOHEADER& bitmap, const RECT& area) {
 void draw_picture_box(HDC dc, const RECT& bounds, SIZE size, int bitmap, COLORREF background) noexcept {
   if (size.cx <= 0 || size.cy <= 0) return;
   const Canvas canvas(dc, bounds, size);
-  RECT area = canvas.all();
-  canvas.edge(area, COLOR_BTNSHADOW, COLOR_BTNHIGHLIGHT);
-  canvas.edge(area, COLOR_3DDKSHADOW, COLOR_3DLIGHT);
-  if (area.left >= area.right || area.top >= area.bottom) return;
+  RECT inside = canvas.all();
+  canvas.edge(inside, COLOR_BTNSHADOW, COLOR_BTNHIGHLIGHT);
+  canvas.edge(inside, COLOR_3DDKSHADOW, COLOR_3DLIGHT);
+  if (inside.left >= inside.right || inside.top >= inside.bottom) return;
   Picture picture;
   const bool loaded = load(bitmap, background, picture);
-  const RECT position = loaded ? centred(picture.header, area) : RECT{};
+  const RECT position = loaded ? centred(picture.header, inside) : RECT{};
   RECT seen = {};
-  IntersectRect(&seen, &position, &area);
+  IntersectRect(&seen, &position, &inside);
   if (HBRUSH brush = CreateSolidBrush(background)) {
-    canvas.fill_between(area, seen, brush, brush);
+    canvas.fill_between(inside, seen, brush, brush);
     DeleteObject(brush);
   }
-  if (loaded) canvas.stretch(picture, position, area);
+  if (loaded) canvas.stretch(picture, position, inside);
 }
 
 }  // namespace zorboffice

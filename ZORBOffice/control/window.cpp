@@ -115,7 +115,7 @@ LRESULT CALLBACK Window::procedure(HWND handle, UINT message, WPARAM first, LPAR
 }
 
 LRESULT Window::receive(UINT message, WPARAM first, LPARAM second) noexcept {
-  const HWND handle = handle_;
+  HWND handle = handle_;
   switch (message) {
     case WM_ERASEBKGND:
       return TRUE;  // painting fills the window; erasing it first would flicker
