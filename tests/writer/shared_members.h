@@ -2,6 +2,7 @@
 #pragma once
 
 #include <algorithm>
+#include <map>
 #include <set>
 
 #include <comutil.h>
@@ -12,10 +13,14 @@ struct SharedMember {
   std::wstring name;
   std::vector<_variant_t> fewest, all;  // its arguments without and with the optional ones, each 1
   std::string fresh;                    // what is shown or raised while nothing is started
+  std::string failed;                   // its result then, where nothing is raised
 };
 
 inline std::vector<SharedMember> shared_members() {
   const std::set<size_t> own = {0, 1, 2, 3, 4, 6, 7, 8, 32};
+  const std::map<std::wstring, std::string> failures = {{L"byte", "ui1 0"},    {L"flag", "bool 0"},
+                                                        {L"short", "i2 0"},    {L"long", "i4 0"},
+                                                        {L"variant", "empty"}, {L"string", "bstr \"\""}};
   const auto members = outside::members_of(outside::classes[2]);
   std::vector<SharedMember> shared;
   for (size_t slot = 0; slot < members.size(); ++slot) {
@@ -26,7 +31,8 @@ inline std::vector<SharedMember> shared_members() {
     const auto optional =
         std::ranges::count_if(text, [](wchar_t unit) { return unit == L'=' || unit == L'?'; });
     const auto ones = [](auto count) { return std::vector<_variant_t>(count, 1L); };
-    shared.push_back({name, ones(all - optional), ones(all), members[slot].fresh});
+    const auto type = text.substr(text.rfind(L' ') + 1);
+    shared.push_back({name, ones(all - optional), ones(all), members[slot].fresh, failures.at(type)});
   }
   return shared;
 }
