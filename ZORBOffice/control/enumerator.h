@@ -17,11 +17,11 @@ namespace zorboffice {
 
 // Holds values as Held, which keeps alive what they refer to, and gives each caller one of its own.
 template <class Interface, class Held, class Given>
-class Enumerator final : public Interface {
+class CopyEnumerator final : public Interface {
  public:
   using Give = Given (*)(const Held&);
 
-  Enumerator(const IID& id, const std::vector<Held>& values, Give give)
+  CopyEnumerator(const IID& id, const std::vector<Held>& values, Give give)
       : id_(id), values_(values), give_(give) {}
 
   HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) noexcept override {
@@ -64,7 +64,7 @@ class Enumerator final : public Interface {
     if (!clone) return E_POINTER;
     *clone = nullptr;
     try {
-      auto* made = new Enumerator(id_, values_, give_);
+      auto* made = new CopyEnumerator(id_, values_, give_);
       made->next_ = next_;
       *clone = made;
       return S_OK;
@@ -74,7 +74,7 @@ class Enumerator final : public Interface {
   }
 
  private:
-  ~Enumerator() = default;
+  ~CopyEnumerator() = default;
 
   const IID& id_;
   const std::vector<Held> values_;
@@ -87,7 +87,7 @@ class Enumerator final : public Interface {
 // Makes an enumerator of the interface with the identifier id. Throws std::bad_alloc.
 template <class Interface, class Held, class Given>
 Interface* make_enumerator(const IID& id, const std::vector<Held>& values, Given (*give)(const Held&)) {
-  return new Enumerator<Interface, Held, Given>(id, values, give);
+  return new CopyEnumerator<Interface, Held, Given>(id, values, give);
 }
 
 }  // namespace zorboffice
