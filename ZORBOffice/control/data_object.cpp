@@ -63,10 +63,10 @@ HRESULT DataObject::GetData(FORMATETC* format, STGMEDIUM* medium) noexcept {
   return medium->hEnhMetaFile ? S_OK : E_OUTOFMEMORY;
 }
 
+// Any lindex will do: there is one picture, and containers disagree about its number.
 HRESULT DataObject::QueryGetData(FORMATETC* format) noexcept {
   if (!format) return E_POINTER;
   if (format->dwAspect != DVASPECT_CONTENT) return DV_E_DVASPECT;
-  if (format->lindex != -1) return DV_E_LINDEX;
   const auto* known = std::ranges::find(formats, format->cfFormat, &FORMATETC::cfFormat);
   if (known == std::end(formats)) return DV_E_FORMATETC;
   return format->tymed & known->tymed ? S_OK : DV_E_TYMED;

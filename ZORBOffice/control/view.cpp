@@ -12,9 +12,10 @@ bool is_drawn(DWORD aspect) {
   return aspect == DVASPECT_CONTENT || aspect == DVASPECT_OPAQUE || aspect == DVASPECT_DOCPRINT;
 }
 
+// The content has no pages: containers ask for it by -1, by 0, or by whatever they have at hand.
 HRESULT checked(DWORD aspect, LONG index) {
   if (!is_drawn(aspect)) return DV_E_DVASPECT;
-  return index == whole_object ? S_OK : DV_E_LINDEX;
+  return aspect == DVASPECT_CONTENT || index == whole_object ? S_OK : DV_E_LINDEX;
 }
 
 }  // namespace

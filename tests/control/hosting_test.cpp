@@ -167,7 +167,7 @@ TEST(Extent, is_kept_and_refused_where_nobody_could_see_or_draw_it) {
   for (const auto& [wanted, status, kept, log] : rows) {
     EXPECT_EQ(resize(control.Get(), wanted.cx, wanted.cy), status) << wanted.cx;
     SIZEL extent = {};
-    EXPECT_EQ(as<IViewObject2>(control.Get())->GetExtent(DVASPECT_CONTENT, -1, nullptr, &extent), S_OK);
+    EXPECT_EQ(as<IViewObject2>(control.Get())->GetExtent(DVASPECT_CONTENT, 0, nullptr, &extent), S_OK);
     EXPECT_EQ(extent.cx, kept);
     EXPECT_EQ(container.take_log(), log) << wanted.cx;
     EXPECT_TRUE(is_usable(control.Get())) << wanted.cx;

@@ -68,6 +68,7 @@ TEST(Picture, is_the_same_in_a_window_in_metafiles_and_in_other_units) {
   const HWND window = container.window();
   const auto expected = drawn([&](HDC dc) { draw(control.Get(), dc, {0, 0, side, side}); });
   const std::pair<const char*, std::function<void(HDC)>> ways[] = {
+      {"index 0", [&](HDC dc) { draw(control.Get(), dc, {0, 0, side, side}, DVASPECT_CONTENT, 0); }},
       {"window",
        [&](HDC dc) { SendMessageW(window, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT); }},
       {"metafile", [&](HDC dc) { play_metafile(control.Get(), dc); }},
@@ -114,7 +115,7 @@ TEST(Picture, follows_the_container_s_colour_and_is_drawn_where_there_is_little_
   }
   const HDC dc = CreateCompatibleDC(nullptr);
   EXPECT_EQ(draw(control.Get(), dc, {0, 0, 9, 9}, DVASPECT_ICON), DV_E_DVASPECT);
-  EXPECT_EQ(draw(control.Get(), dc, {0, 0, 9, 9}, DVASPECT_CONTENT, 0), DV_E_LINDEX);
+  EXPECT_EQ(draw(control.Get(), dc, {0, 0, 9, 9}, DVASPECT_OPAQUE, 0), DV_E_LINDEX);
   EXPECT_EQ(draw(control.Get(), nullptr, {0, 0, 9, 9}), E_INVALIDARG);
   DeleteDC(dc);
 }
@@ -128,7 +129,12 @@ TEST(Data, lists_and_gives_the_two_metafiles_only) {
   ULONG count = 0;
   EXPECT_EQ(formats->Next(3, found, &count), S_FALSE);
   ASSERT_EQ(count, 2u);
-  for (ULONG i = 0; i < count; ++i) EXPECT_EQ(data->QueryGetData(&found[i]), S_OK);
+  for (ULONG i = 0; i < count; ++i) {
+    for (const LONG index : {-1, 0, 7}) {
+      found[i].lindex = index;
+      EXPECT_EQ(data->QueryGetData(&found[i]), S_OK) << i << ": " << index;
+    }
+  }
   STGMEDIUM medium = {};
   found[0].cfFormat = CF_BITMAP;
   EXPECT_EQ(data->GetData(&found[0], &medium), DV_E_FORMATETC);
