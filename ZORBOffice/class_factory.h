@@ -4,7 +4,7 @@
 #include <windows.h>
 #include <unknwn.h>
 
-#include "ZORBOffice/class_table.h"
+#include "ZORBOffice/surface/class_row.h"
 
 namespace zorboffice {
 

@@ -1,30 +1,11 @@
-// The three classes: what registration, the class factory and the instances know of them.
+// The list of the library's three classes. Nothing below knows it: whoever needs a class is handed its row.
 #pragma once
-
-#include <windows.h>
-#include <unknwn.h>
 
 #include <span>
 
-#include "ZORBOffice/surface/member_table.h"
-#include "ZORBOffice/surface/published_classes.h"
+#include "ZORBOffice/surface/class_row.h"
 
 namespace zorboffice {
-
-struct DefaultInterface {
-  IID id;
-  const MemberTable& members;
-};
-
-struct ClassRow {
-  const PublishedClass& published;
-  int toolbox_bitmap;  // resource number
-  // Makes an instance, as part of outer where that is not null, and returns its identity with one reference;
-  // throws std::bad_alloc.
-  IUnknown* (*create)(const ClassRow& row, IUnknown* outer);
-  DefaultInterface default_interface;
-  IID event_interface_id;
-};
 
 // The table, empty until load_class_table() has succeeded.
 std::span<const ClassRow> class_table() noexcept;

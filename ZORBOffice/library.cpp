@@ -36,10 +36,10 @@ STDAPI DllCanUnloadNow() {
 
 // Registers the classes and the type library for the machine. Returns the failure of the first entry that
 // could not be written; the registry is as it was then.
-STDAPI DllRegisterServer() { return register_library(Scope::machine); }
+STDAPI DllRegisterServer() { return register_library(Scope::machine, class_table()); }
 
 // Removes everything that DllRegisterServer wrote.
-STDAPI DllUnregisterServer() { return unregister_library(Scope::machine); }
+STDAPI DllUnregisterServer() { return unregister_library(Scope::machine, class_table()); }
 
 // Does either of the two for what regsvr32's /i names: "user" in any case is the current user only; nothing
 // is the machine. Returns E_INVALIDARG for any other text.
@@ -49,5 +49,5 @@ STDAPI DllInstall(BOOL install, LPCWSTR command_line) {
     if (CompareStringOrdinal(command_line, -1, L"user", -1, TRUE) != CSTR_EQUAL) return E_INVALIDARG;
     scope = Scope::user;
   }
-  return install ? register_library(scope) : unregister_library(scope);
+  return install ? register_library(scope, class_table()) : unregister_library(scope, class_table());
 }

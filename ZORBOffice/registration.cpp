@@ -7,11 +7,10 @@
 #include <utility>
 #include <vector>
 
-#include "ZORBOffice/class_table.h"
 #include "ZORBOffice/common/bstr.h"
 #include "ZORBOffice/module.h"
-#include "ZORBOffice/registration_values.h"
 #include "ZORBOffice/registry.h"
+#include "ZORBOffice/surface/registration_values.h"
 
 namespace zorboffice {
 namespace {
@@ -127,7 +126,7 @@ Words common_words() {
 }
 
 // The one list that registers and unregisters.
-std::vector<Entry> entries() {
+std::vector<Entry> entries(std::span<const ClassRow> classes) {
   const Words common = common_words();
   const auto with = [&](std::initializer_list<Word> own) {
     Words words(own);
@@ -137,7 +136,7 @@ std::vector<Entry> entries() {
   std::vector<Entry> list;
   append(list, shared_library_rows, Sharing::with_other_bitness, common);
   append(list, library_file_rows, Sharing::own, common);
-  for (const ClassRow& row : class_table()) {
+  for (const ClassRow& row : classes) {
     const std::wstring program_id = std::wstring(program_id_prefix) + row.published.name;
     const Words words = with({{L"%class id%", text_of(row.published.class_id)},
                               {L"%program id%", program_id},
@@ -195,18 +194,18 @@ LONG remove_all(HKEY root, std::span<const Entry> list) {
 
 }  // namespace
 
-HRESULT register_library(Scope scope) noexcept {
+HRESULT register_library(Scope scope, std::span<const ClassRow> classes) noexcept {
   try {
-    const LONG status = write_all(root_of(scope), entries());
+    const LONG status = write_all(root_of(scope), entries(classes));
     return HRESULT_FROM_WIN32(status);
   } catch (...) {
     return E_OUTOFMEMORY;
   }
 }
 
-HRESULT unregister_library(Scope scope) noexcept {
+HRESULT unregister_library(Scope scope, std::span<const ClassRow> classes) noexcept {
   try {
-    const LONG status = remove_all(root_of(scope), entries());
+    const LONG status = remove_all(root_of(scope), entries(classes));
     return HRESULT_FROM_WIN32(status);
   } catch (...) {
     return E_OUTOFMEMORY;

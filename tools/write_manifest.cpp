@@ -7,7 +7,7 @@
 #include <stdexcept>
 #include <string>
 
-#include "ZORBOffice/registration_values.h"
+#include "ZORBOffice/surface/registration_values.h"
 #include "tools/class_list.h"
 
 namespace zorboffice {

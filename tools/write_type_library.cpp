@@ -12,7 +12,7 @@
 
 #include "ZORBOffice/common/bstr.h"
 #include "ZORBOffice/common/com_ptr.h"
-#include "ZORBOffice/registration_values.h"
+#include "ZORBOffice/surface/registration_values.h"
 #include "tools/class_list.h"
 
 namespace zorboffice {

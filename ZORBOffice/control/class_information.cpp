@@ -1,7 +1,7 @@
 #include "ZORBOffice/control/class_information.h"
 
-#include "ZORBOffice/class_table.h"
 #include "ZORBOffice/control/hosted_control.h"
+#include "ZORBOffice/surface/class_row.h"
 #include "ZORBOffice/surface/type_information.h"
 
 namespace zorboffice {

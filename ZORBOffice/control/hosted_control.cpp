@@ -2,8 +2,8 @@
 
 #include <algorithm>
 
-#include "ZORBOffice/class_table.h"
 #include "ZORBOffice/control/picture_box.h"
+#include "ZORBOffice/surface/class_row.h"
 
 namespace zorboffice {
 namespace {

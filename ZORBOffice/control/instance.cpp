@@ -1,6 +1,6 @@
 #include "ZORBOffice/control/instance.h"
 
-#include "ZORBOffice/class_table.h"
+#include "ZORBOffice/surface/class_row.h"
 
 namespace zorboffice {
 

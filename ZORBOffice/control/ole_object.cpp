@@ -4,9 +4,9 @@
 
 #include <cwchar>
 
-#include "ZORBOffice/class_table.h"
 #include "ZORBOffice/control/hosted_control.h"
-#include "ZORBOffice/registration_values.h"
+#include "ZORBOffice/surface/class_row.h"
+#include "ZORBOffice/surface/registration_values.h"
 
 namespace zorboffice {
 

@@ -2,10 +2,10 @@
 
 #include <utility>
 
-#include "ZORBOffice/class_table.h"
 #include "ZORBOffice/common/com_ptr.h"
 #include "ZORBOffice/common/variant.h"
 #include "ZORBOffice/control/hosted_control.h"
+#include "ZORBOffice/surface/class_row.h"
 
 namespace zorboffice {
 namespace {

@@ -1,7 +1,7 @@
 #include "ZORBOffice/control/quick_activation.h"
 
 #include "ZORBOffice/control/hosted_control.h"
-#include "ZORBOffice/registration_values.h"
+#include "ZORBOffice/surface/registration_values.h"
 
 namespace zorboffice {
 

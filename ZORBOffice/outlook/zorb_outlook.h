@@ -2,9 +2,9 @@
 #pragma once
 
 #include "ZORBOffice/common/member_frame.h"
+#include "ZORBOffice/control/control.h"
 #include "ZORBOffice/outlook/entry_types.h"
 #include "ZORBOffice/outlook/outlook_state.h"
-#include "ZORBOffice/surface/control.h"
 #include "ZORBOffice/surface/outlook_interface.h"
 
 namespace zorboffice {

@@ -3,7 +3,7 @@
 
 #include "ZORBOffice/common/automation_object.h"
 #include "ZORBOffice/common/member_frame.h"
-#include "ZORBOffice/surface/control.h"
+#include "ZORBOffice/control/control.h"
 #include "ZORBOffice/surface/word_processor_interface.h"
 
 namespace zorboffice {

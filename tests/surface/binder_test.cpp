@@ -4,7 +4,7 @@
 #include <cstring>
 #include <map>
 #include "ZORBOffice/common/member_frame.h"
-#include "ZORBOffice/surface/control.h"
+#include "ZORBOffice/control/control.h"
 #include "support/fake_object.h"
 
 namespace zorboffice {

@@ -4,11 +4,11 @@
 #include <windows.h>
 #include <oaidl.h>
 
-#include "ZORBOffice/class_table.h"
 #include "ZORBOffice/common/com_ptr.h"
 #include "ZORBOffice/common/member_frame.h"
 #include "ZORBOffice/control/instance.h"
 #include "ZORBOffice/surface/binder.h"
+#include "ZORBOffice/surface/class_row.h"
 #include "ZORBOffice/surface/type_information.h"
 
 namespace zorboffice {
