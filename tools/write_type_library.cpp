@@ -14,6 +14,7 @@
 #include "ZORBOffice/common/com_ptr.h"
 #include "ZORBOffice/surface/registration_values.h"
 #include "tools/class_list.h"
+#include "tools/mend_type_library.h"
 
 namespace zorboffice {
 namespace {
@@ -53,6 +54,7 @@ ComPtr<ICreateTypeInfo> create(ICreateTypeLib2* library, const wchar_t* name, TY
   require(library->CreateTypeInfo(text(name), kind, created.receive()), "CreateTypeInfo");
   require(created->SetGuid(id), "SetGuid");
   require(created->SetTypeFlags(flags), "SetTypeFlags");
+  require(created->SetAlignment(sizeof(void*)), "SetAlignment");
   return created;
 }
 
@@ -118,7 +120,13 @@ void add_member(ICreateTypeInfo* target, UINT slot, const Member& member) {
   function.memid = member.id;
   function.lprgelemdescParam = elements.data();
   function.funckind = FUNC_PUREVIRTUAL;
-  function.invkind = member.kind == MemberKind::method ? INVOKE_FUNC : INVOKE_PROPERTYGET;
+  if (member.kind == MemberKind::property_get) {
+    function.invkind = INVOKE_PROPERTYGET;
+    // They act: a property browser that reads what it shows must not start the office application.
+    function.wFuncFlags = FUNCFLAG_FNONBROWSABLE;
+  } else {
+    function.invkind = INVOKE_FUNC;
+  }
   function.callconv = CC_STDCALL;
   function.cParams = static_cast<SHORT>(elements.size());
   function.oVft = static_cast<SHORT>((inherited_slots + slot) * sizeof(void*));
@@ -172,35 +180,6 @@ std::size_t count_of_true_defaults() {
   return count;
 }
 
-// Wine's writer keeps 8 bits of a flag's default, so that true (-1) becomes 255. In the file such a default
-// is one 32-bit word: the top bit, 5 bits of type, 26 bits of value. Replaces all of them, or none where the
-// platform wrote them whole.
-void mend_true_defaults(const std::wstring& path) {
-  constexpr DWORD inline_flag = 0x80000000 | (VT_BOOL << 26);
-  constexpr DWORD damaged = inline_flag | 0xFF;
-  constexpr DWORD whole = inline_flag | 0xFFFF;
-  File file(_wfopen(path.c_str(), L"r+b"), std::fclose);
-  if (!file) throw std::runtime_error("opening the type library failed");
-  if (std::fseek(file.get(), 0, SEEK_END) != 0) throw std::runtime_error("reading the type library failed");
-  const long size = std::ftell(file.get());
-  if (size < 0) throw std::runtime_error("reading the type library failed");
-  std::vector<DWORD> words(static_cast<std::size_t>(size) / sizeof(DWORD));
-  std::rewind(file.get());
-  if (std::fread(words.data(), sizeof(DWORD), words.size(), file.get()) != words.size()) {
-    throw std::runtime_error("reading the type library failed");
-  }
-  const auto found = static_cast<std::size_t>(std::count(words.begin(), words.end(), damaged));
-  if (found == 0) return;
-  if (found != count_of_true_defaults())
-    throw std::runtime_error("the defaults are not where they were expected");
-  std::replace(words.begin(), words.end(), damaged, whole);
-  std::rewind(file.get());
-  if (std::fwrite(words.data(), sizeof(DWORD), words.size(), file.get()) != words.size() ||
-      std::fflush(file.get()) != 0) {
-    throw std::runtime_error("writing the type library failed");
-  }
-}
-
 void write_type_library(const std::wstring& path) {
   constexpr SYSKIND system = sizeof(void*) == 8 ? SYS_WIN64 : SYS_WIN32;
   ComPtr<ICreateTypeLib2> library;
@@ -236,7 +215,7 @@ int wmain(int count, wchar_t** arguments) {
   try {
     require(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED), "CoInitializeEx");
     write_type_library(folder + L"ZORBOffice.tlb");
-    mend_true_defaults(folder + L"ZORBOffice.tlb");
+    mend_type_library(folder + L"ZORBOffice.tlb", count_of_true_defaults());
     for (const Class& row : classes) {
       write_identifier(folder, row.published.default_interface, row.default_interface_id);
       write_identifier(folder, row.published.event_interface, row.event_interface_id);
