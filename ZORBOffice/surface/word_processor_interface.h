@@ -21,7 +21,8 @@ struct Choice;
 //
 // In OpenWriter the suite's service manager stands where the application does. Where a member differs there,
 // its comment says so; every other one asks the service manager and the suite's document for the word
-// processor's members, and fails as in ZORBWord where they do not have them.
+// processor's members, and fails as in ZORBWord where they do not have them. docs/open-writer.md says member
+// by member what that means on LibreOffice; documents that were loaded stay open there.
 //
 // A byte result is 1 for success and 0 for failure; a flag result is VARIANT_TRUE or VARIANT_FALSE; a variant
 // result is always empty. Units and constants named wd... are those of the word processor's object model.
@@ -105,15 +106,16 @@ struct WordProcessorInterface : IDispatch {
                                                              LONG* EndPos, BSTR* result) noexcept = 0;
 
   // Copies headers, footers and the normal style's font, each if chosen, from SourceTemplate to DestTemplate
-  // (paths; empty: the "Normal" template), and saves the latter. Neither may be open already. With no choice
-  // a message says so, and the answer is 0. On failure DestTemplate is unchanged, unless its closing failed.
-  // Trap: message "Set Header/Footer ". docs/headers-and-footers.md has it step by step.
+  // (paths; empty or "Normal": the application's template), and saves the latter. A document that is open
+  // already is used as it stands and stays open. One file as both gives its first section's to the others.
+  // With no choice a message says so, and the answer is 0. On failure DestTemplate is unchanged, unless its
+  // closing failed. Trap: message "Set Header/Footer ". docs/headers-and-footers.md has it step by step.
   virtual HRESULT STDMETHODCALLTYPE get_SetHeaderFooter(BSTR* SourceTemplate, BSTR* DestTemplate,
                                                         Choice* ApplyHeader, Choice* ApplyFooter,
                                                         Choice* ApplyFont, BYTE* result) noexcept = 0;
 
-  // Replace, within one header or footer, named as in ReadHeaderFooterText; one that does not exist is a
-  // failure. Trap: message "Replace Header/Footer ".
+  // Replace, within one header or footer, named as in ReadHeaderFooterText; in one that does not exist
+  // nothing is found. Trap: message "Replace Header/Footer ".
   virtual HRESULT STDMETHODCALLTYPE get_ReplaceHeaderFooter(
       LONG* Section, VARIANT_BOOL* IsHeader, BYTE* HeaderFooterType, BSTR* SearchString, BSTR* ReplaceString,
       BYTE* WrapAction, VARIANT_BOOL* SearchForward, VARIANT_BOOL* BeginAtTop, VARIANT_BOOL* MatchCase,

@@ -1,4 +1,7 @@
 // Sections, headers and footers.
+#include <optional>
+#include <utility>
+
 #include "ZORBOffice/word/opened_document.h"
 #include "ZORBOffice/word/replacement.h"
 #include "ZORBOffice/word/word_members.h"
@@ -12,11 +15,6 @@ constexpr LONG first_section = 1;
 
 constexpr const wchar_t* headers = L"Headers";
 constexpr const wchar_t* footers = L"Footers";
-
-// What the word processor itself says of a section that is not there.
-[[noreturn]] void throw_no_such_member() {
-  throw Failure{5941, Bstr(L"The requested member of the collection does not exist.")};
-}
 
 // Copies each header (or footer) that the source section has; a first-page or even-page one is switched on.
 void copy_each_type(const AutomationObject& source, const AutomationObject& destination,
@@ -73,7 +71,7 @@ HRESULT WordMembers::get_ReplaceHeaderFooter(LONG* Section, VARIANT_BOOL* IsHead
                                 MatchAllWordForms, ReplaceOption};
   return trapped(result, message(L"Replace Header/Footer "), [&] {
     const AutomationObject searched = header_footer(Section, IsHeader, HeaderFooterType);
-    if (!searched.get(L"Exists").flag()) throw_no_such_member();
+    if (!searched.get(L"Exists").flag()) return false;
     return replacement.execute(searched.get(L"Range").get(L"Find").object());
   });
 }
@@ -89,12 +87,19 @@ HRESULT WordMembers::get_SetHeaderFooter(BSTR* SourceTemplate, BSTR* DestTemplat
       return false;
     }
     const AutomationObject held = application();
-    OpenedDocument source(held, dereferenced(SourceTemplate));
-    OpenedDocument destination(held, dereferenced(DestTemplate));
+    const Bstr source_path = template_path(held, dereferenced(SourceTemplate));
+    OpenedDocument source(held, source_path);
+    const Bstr destination_path = template_path(held, dereferenced(DestTemplate));
+    // One file is one document: opened, saved and closed once.
+    std::optional<OpenedDocument> other;
+    if (!name_the_same_file(source_path, destination_path)) other.emplace(held, destination_path);
+    OpenedDocument& destination = other ? *other : source;
 
     if (copies_headers || copies_footers) {
       const AutomationObject source_section = source.document().get(L"Sections", first_section).object();
+      bool is_source = !other;
       destination.document().get(L"Sections").object().for_each([&](const Result& section) {
+        if (std::exchange(is_source, false)) return;
         if (copies_headers) copy_each_type(source_section, section.object(), headers);
         if (copies_footers) copy_each_type(source_section, section.object(), footers);
       });
@@ -104,7 +109,7 @@ HRESULT WordMembers::get_SetHeaderFooter(BSTR* SourceTemplate, BSTR* DestTemplat
       destination.document().get(L"Styles", normal_style).put(L"Font", Argument::object(font.dispatch()));
     }
     // The source first: what fails before the saving leaves the destination's file as it was.
-    source.close();
+    if (other) source.close();
     destination.document().call(L"Save");
     destination.close();
     return true;

@@ -30,12 +30,11 @@ class NoLoadArguments {
 HRESULT OpenWriter::get_Start(VARIANT_BOOL* Template, BYTE* result) noexcept {
   return trapped(result, both(message(L"Start "), message(L"")), [&] {
     const AutomationObject manager = AutomationObject::create(L"com.sun.star.ServiceManager");
-    const auto service = [&](const wchar_t* name) {
-      return manager.get(L"createInstance", Bstr(name)).object();
-    };
+    const auto service = [&](const wchar_t* name) { return manager.get(L"createInstance", Bstr(name)); };
     application_ = manager;
-    core_reflection_ = service(L"com.sun.star.reflection.CoreReflection");
-    desktop_ = service(L"com.sun.star.frame.Desktop");
+    // No member needs it: a suite without one does as well.
+    core_reflection_ = service(L"com.sun.star.reflection.CoreReflection").object_or_nothing();
+    desktop_ = service(L"com.sun.star.frame.Desktop").object();
     if (flag(Template)) place_window(manager, word_global, Argument::missing());
     return success;
   });
