@@ -32,7 +32,15 @@ constexpr char preface[] =
     "from* can only be read, one without an entry under *read as* only be written. Writing does not save the "
     "item:\n"
     "`SaveItem` does. `GetExceptionProperty` has one more key, `Get Appointment`: it makes the exception's\n"
-    "appointment current and returns `Appointment Found`.\n";
+    "appointment current and returns `Appointment Found`.\n\n"
+    "- A date reads `dd/MM/yyyy` but is written in the order of the user's settings, so never write back what was\n"
+    "  read: write year-month-day, `2026-11-23` or `2026-11-23 14:30`, which is understood everywhere.\n"
+    "- A time alone is written as that time on 30 December 1899.\n"
+    "- An empty text is no date: writing it fails (13, \"Type mismatch\") and clears nothing. A task's date that was\n"
+    "  never set reads `01/01/4501`.\n"
+    "- `ReminderDate` of a task sets the time of the reminder; no key switches the reminder on (`ReminderSet`).\n"
+    "- Writing `PatternStartDate` changes `PatternEndDate`: Outlook keeps the length of the series.\n"
+    "- A setter that returns a flag returns true for an unknown key too, after the box that says so.\n";
 
 std::string narrow(std::wstring_view text) { return {text.begin(), text.end()}; }
 

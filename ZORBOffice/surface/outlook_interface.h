@@ -11,18 +11,20 @@ namespace zorboffice {
 // failure; failures are kept for GetLastErrorNumber and GetLastErrorDescription. A null result pointer gives
 // E_POINTER.
 //
-// Property keys are compared exactly; docs/outlook-properties.md lists them. An unknown key is said in a message
-// box (GetExceptionProperty says nothing), and a setter that returns a flag then returns true all the same.
-// Writing a property does not save the item.
+// Property keys are compared exactly; docs/outlook-properties.md lists them. An unknown key is said in a
+// message box (GetExceptionProperty says nothing), and a setter that returns a flag then returns true all the
+// same. Writing a property does not save the item. A date is read as day/month/year but written in the user's
+// own order: never write back what was read; year-month-day is understood everywhere. A time alone is a time
+// of 30 December 1899. A misspelt entry type is said in a message box.
 //
 // An answer of Nothing where an item, a collection or a pattern is due is the failure "Object variable … not
 // set" (91), and the earlier object stays.
 //
 // Every trap records the failure; OpenItem, InitItems, SaveEmailAttachment, GetFirstItem, GetNextItem,
-// NewEmail, SetRecurrenceProperty and the contact and task property members also show a message box. The boxes
-// of SaveEmailAttachment and SetRecurrenceProperty show facts of the current item: where those cannot be read,
-// as without a current item, that failure reaches the host instead, unseen and not recorded. The last two
-// members have no trap.
+// NewEmail, SetRecurrenceProperty and the contact and task property members also show a message box. The
+// boxes of SaveEmailAttachment and SetRecurrenceProperty show facts of the current item: where those cannot
+// be read, as without a current item, that failure reaches the host instead, unseen and not recorded. The
+// last two members have no trap.
 struct OutlookInterface : IDispatch {
   // Starts a session with Outlook.
   virtual HRESULT STDMETHODCALLTYPE StartOutlook(VARIANT_BOOL* result) noexcept = 0;
@@ -30,8 +32,9 @@ struct OutlookInterface : IDispatch {
   // Ends the work; quits Outlook only when Force (optional, default false) is true. No reference is let go.
   virtual HRESULT STDMETHODCALLTYPE StopOutlook(VARIANT_BOOL Force, VARIANT_BOOL* result) noexcept = 0;
 
-  // Composes one mail, and sends (AutoSend) or shows it. Attachment is a list of paths separated by ";" and
-  // is used up through the reference; Template is not read. Always returns false: look at the last error.
+  // Composes one mail, and sends (AutoSend) or shows it. Beware: AutoSend then quits Outlook, the user's own
+  // too. Attachment is a list of paths separated by ";" and is used up through the reference: hand over a
+  // copy. Template is not read. Always returns false: look at the last error.
   virtual HRESULT STDMETHODCALLTYPE NewEmail(BSTR* Template, BSTR* ToAddress, BSTR* CCAddress,
                                              BSTR* BCCAddress, BSTR* Subject, BSTR* Content,
                                              VARIANT_BOOL* UseHTML, VARIANT_BOOL* AutoSend, BSTR* Attachment,
@@ -41,8 +44,8 @@ struct OutlookInterface : IDispatch {
   virtual HRESULT STDMETHODCALLTYPE OpenItem(BSTR EntryType, VARIANT_BOOL* result) noexcept = 0;
 
   // Fills the entry type's collection from its default folder, restricted by Condition unless that is empty,
-  // sorted. Also knows "Sent Items" and, in the folder's own order and of all kinds, "Deleted " followed by an
-  // entry type.
+  // sorted. Also knows "Sent Items" and, in the folder's own order and of all kinds, "Deleted " followed by
+  // an entry type.
   virtual HRESULT STDMETHODCALLTYPE InitItems(BSTR EntryType, BSTR Condition,
                                               VARIANT_BOOL* result) noexcept = 0;
 
@@ -96,6 +99,7 @@ struct OutlookInterface : IDispatch {
   virtual HRESULT STDMETHODCALLTYPE GetRecurrenceProperty(BSTR RecurProp, BSTR* result) noexcept = 0;
 
   // Converts PropertyValue and writes it to the recurrence pattern's property RecurProp. Always returns "".
+  // Outlook keeps a pattern's length: writing PatternStartDate changes PatternEndDate too.
   virtual HRESULT STDMETHODCALLTYPE SetRecurrenceProperty(BSTR RecurProp, BSTR PropertyValue,
                                                           BSTR* result) noexcept = 0;
 
@@ -110,10 +114,11 @@ struct OutlookInterface : IDispatch {
   virtual HRESULT STDMETHODCALLTYPE SetContactProperty(BSTR ContactProp, BSTR PropertyValue,
                                                        VARIANT_BOOL* result) noexcept = 0;
 
-  // Returns the current task's property TaskProp as text.
+  // Returns the current task's property TaskProp as text. A date that was never set reads 01/01/4501.
   virtual HRESULT STDMETHODCALLTYPE GetTaskProperty(BSTR TaskProp, BSTR* result) noexcept = 0;
 
-  // Converts PropertyValue and writes it to the current task's property TaskProperty.
+  // Converts PropertyValue and writes it to the current task's property TaskProperty. An empty text does not
+  // clear a date; it is a type mismatch. ReminderDate sets the reminder's time; nothing sets ReminderSet.
   virtual HRESULT STDMETHODCALLTYPE SetTaskProperty(BSTR TaskProperty, BSTR PropertyValue,
                                                     VARIANT_BOOL* result) noexcept = 0;
 
