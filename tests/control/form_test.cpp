@@ -62,11 +62,11 @@ TEST(Screen, shows_the_three_controls_as_their_metafiles_draw_them) {
   }
   EXPECT_EQ(pictures.size(), 3u);
   CopyFileA(screen_file().c_str(), "screen.xwd", FALSE);
-  // Something covers the form and goes: the controls are painted again, alone.
-  const auto shown = on_screen(60, 20);
+  // Something covers the form, in the form's colour, and goes: the controls are painted again, alone.
+  const Pixels shown = on_screen(60, 20), blank(side * side, on_screen(0, 0)[0]);
   const HWND cover = CreateWindowW(L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 200, 100, nullptr, nullptr,
                                    nullptr, nullptr);
-  EXPECT_TRUE(comes_to_show(Pixels(side * side, on_screen(0, 0)[0]), 60, 20));
+  EXPECT_TRUE(comes_to_show(blank, 60, 20));
   DestroyWindow(cover);
   EXPECT_TRUE(comes_to_show(shown, 60, 20));
   DestroyWindow(form);
