@@ -7,13 +7,18 @@
 
 namespace {
 
-// Runs rounds until nothing more is kept for the next one, then a thousand.
+// Runs rounds until a thousand of them leave nothing behind: what leaks does so in every thousand, what
+// Wine's heap sets aside does not. Under Wine 8 a single leaked block shows. Wine 10 takes small blocks from
+// groups of 31, so there it takes as many.
 template <class Round>
 void expect_no_trace_of(const Round& round) {
-  for (int i = 0; i < 50; ++i) round();
-  const Resources before = resources_in_use();
-  for (int i = 0; i < 1'000; ++i) round();
-  const Resources after = resources_in_use();
+  Resources before, after;
+  for (const int rounds : {50, 1'000, 1'000, 1'000, 1'000, 1'000}) {
+    before = after;
+    for (int i = 0; i < rounds; ++i) round();
+    after = resources_in_use();
+    if (after.blocks == before.blocks && after.bytes == before.bytes) break;
+  }
   EXPECT_EQ(after.blocks, before.blocks);
   EXPECT_EQ(after.bytes, before.bytes);
   EXPECT_LT(after.handles, before.handles + 20);
@@ -219,48 +224,41 @@ TEST(Class, tells_its_events_its_pages_and_its_status) {
   }
 }
 
-TEST(Containers, come_and_go_a_thousand_times_without_a_trace) {
-  for (const auto& ids : classes) {
-    for (const Host host : {windows_forms, visual_basic}) {
-      SCOPED_TRACE(host == windows_forms ? "Windows Forms" : "Visual Basic");
-      StrictContainer container;
-      expect_no_trace_of([&] {
-        const auto control = outside::create(ids);
-        host(container, control.Get());
-        EXPECT_EQ(container.held, 0);
-        EXPECT_FALSE(container.window());
-        container.log.clear();
-      });
-    }
-  }
+void atl(StrictContainer& form, IUnknown* control) {
+  const HWND holder = hold_by_atl(control, form.form, {10, 10, 50, 50});
+  const auto object = as<IOleObject>(control);
+  const auto in_place = as<IOleInPlaceObject>(control);
+  HWND window = nullptr;
+  EXPECT_EQ(in_place->GetWindow(&window), S_OK);
+  MoveWindow(holder, 10, 10, 90, 70, TRUE);
+  RECT client = {};
+  GetClientRect(window, &client);
+  EXPECT_TRUE(client.right == 90 && client.bottom == 70);
+  ComPtr<IOleClientSite> site;
+  object->GetClientSite(&site);
+  EXPECT_EQ(object->DoVerb(OLEIVERB_UIACTIVATE, nullptr, site.Get(), 0, holder, &client), S_OK);
+  EXPECT_EQ(in_place->UIDeactivate(), S_OK);
+  const auto persistence = as<IPersistStreamInit>(control);
+  const auto stream = stream_of("");
+  EXPECT_EQ(persistence->Save(stream.Get(), TRUE), S_OK);
+  stream->Seek({}, STREAM_SEEK_SET, nullptr);
+  EXPECT_EQ(persistence->Load(stream.Get()), S_OK);
+  site.Reset();
+  DestroyWindow(holder);
+  EXPECT_FALSE(IsWindow(window));
 }
 
-TEST(Atl, comes_and_goes_a_thousand_times_without_a_trace) {
-  StrictContainer form;
-  for (const auto& ids : classes) {
+TEST(Containers, come_and_go_a_thousand_times_without_a_trace) {
+  for (const Host host : {windows_forms, visual_basic, atl}) {
+    SCOPED_TRACE(host == windows_forms ? "Windows Forms" : host == visual_basic ? "Visual Basic" : "ATL");
+    StrictContainer container;
+    size_t turn = 0;
     expect_no_trace_of([&] {
-      const auto control = outside::create(ids);
-      const HWND holder = hold_by_atl(control.Get(), form.form, {10, 10, 50, 50});
-      const auto object = as<IOleObject>(control.Get());
-      const auto in_place = as<IOleInPlaceObject>(control.Get());
-      HWND window = nullptr;
-      EXPECT_EQ(in_place->GetWindow(&window), S_OK);
-      MoveWindow(holder, 10, 10, 90, 70, TRUE);
-      RECT client = {};
-      GetClientRect(window, &client);
-      EXPECT_TRUE(client.right == 90 && client.bottom == 70);
-      ComPtr<IOleClientSite> site;
-      object->GetClientSite(&site);
-      EXPECT_EQ(object->DoVerb(OLEIVERB_UIACTIVATE, nullptr, site.Get(), 0, holder, &client), S_OK);
-      EXPECT_EQ(in_place->UIDeactivate(), S_OK);
-      const auto persistence = as<IPersistStreamInit>(control.Get());
-      const auto stream = stream_of("");
-      EXPECT_EQ(persistence->Save(stream.Get(), TRUE), S_OK);
-      stream->Seek({}, STREAM_SEEK_SET, nullptr);
-      EXPECT_EQ(persistence->Load(stream.Get()), S_OK);
-      site.Reset();
-      DestroyWindow(holder);
-      EXPECT_FALSE(IsWindow(window));
+      const auto control = outside::create(classes[turn++ % std::size(classes)]);
+      host(container, control.Get());
+      EXPECT_EQ(container.held, 0);
+      EXPECT_FALSE(container.window());
+      container.log.clear();
     });
   }
 }
