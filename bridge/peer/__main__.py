@@ -5,11 +5,9 @@ import json
 import signal
 import socket
 import sys
-import time
 import traceback
 
-import uno
-
+import office
 from binding import constant
 from handles import Handles, NoSuchMember
 from failures import Disposed, Failure, SERVER_NOT_STARTED
@@ -17,20 +15,6 @@ from outlook.application import Outlook, OutlookSession
 from paths import Paths
 from suite import SuiteSession
 from word.application import WordSession
-
-
-def connect_office(pipe_name, seconds):
-    """Return the office's component context; ConnectionError when it does not answer within the seconds."""
-    local = uno.getComponentContext()
-    resolver = local.ServiceManager.createInstanceWithContext("com.sun.star.bridge.UnoUrlResolver", local)
-    end = time.monotonic() + seconds
-    while True:
-        try:
-            return resolver.resolve(f"uno:pipe,name={pipe_name};urp;StarOffice.ComponentContext")
-        except uno.getClass("com.sun.star.connection.NoConnectException") as error:
-            if time.monotonic() > end:
-                raise ConnectionError(f"no office at the pipe {pipe_name}") from error
-            time.sleep(0.1)
 
 
 class OfficeGone(Exception):
@@ -150,7 +134,7 @@ def main():
     options = parser.parse_args()
     signal.signal(signal.SIGTERM, lambda *_: sys.exit(0))
     try:
-        context = connect_office(options.office_pipe, 30) if options.office_pipe else None
+        context = office.connect(options.office_pipe, 30) if options.office_pipe else None
     except ConnectionError as error:
         sys.exit(f"peer: {error}")
     peer = Peer(context, Paths(options.prefix), options.pdf_folder)
