@@ -1,10 +1,9 @@
 #include "class_factory.h"
 
 #include "call_error.h"
-#include "client_watch.h"
-#include "peer.h"
-#include "remote_object.h"
+#include "json.h"
 #include "values.h"
+#include "variant.h"
 
 STDMETHODIMP ClassFactory::QueryInterface(REFIID iid, void** result) {
   if (!result) return E_POINTER;
@@ -20,9 +19,9 @@ STDMETHODIMP ClassFactory::CreateInstance(IUnknown* outer, REFIID iid, void** re
   if (outer) return CLASS_E_NOAGGREGATION;
   try {
     const Json created =
-        peer().ask({{"do", "create"}, {"class", served_.peer_name}, {"client", watch_calling_client()}});
+        peer_.ask({{"do", "create"}, {"class", served_.peer_name}, {"client", clients_.watch_caller()}});
     Variant object;
-    *object.out() = to_variant(created);
+    *object.out() = to_variant(created, objects_);
     if (object->vt != VT_DISPATCH) return E_UNEXPECTED;
     return object->pdispVal->QueryInterface(iid, result);
   } catch (const CallError& error) {

@@ -2,49 +2,42 @@
 
 #include <rpc.h>
 
-#include <cstdint>
-#include <set>
+#include <memory>
 
 #include "call_error.h"
-#include "locked.h"
-#include "peer.h"
 
-namespace {
-
-Lock lock;
-std::set<DWORD> watched;
-
-void CALLBACK client_ended(void* process_id, BOOLEAN) {
-  const DWORD id = static_cast<DWORD>(reinterpret_cast<uintptr_t>(process_id));
+void CALLBACK ClientWatch::client_ended(void* client, BOOLEAN) {
+  const std::unique_ptr<Client> ended(static_cast<Client*>(client));
+  ClientWatch& watch = ended->watch;
   {
-    Locked locked(lock);
-    watched.erase(id);
+    Locked locked(watch.lock_);
+    watch.watched_.erase(ended->id);
   }
   try {
-    peer().ask({{"do", "client_ended"}, {"client", id}});
+    watch.peer_.ask({{"do", "client_ended"}, {"client", ended->id}});
   } catch (const CallError&) {
     // A peer that is gone has let go of everything already.
   }
 }
 
-}  // namespace
-
-DWORD watch_calling_client() {
+DWORD ClientWatch::watch_caller() {
   using InquireClient = RPC_STATUS(WINAPI*)(RPC_BINDING_HANDLE, unsigned long*);
   static const auto inquire = reinterpret_cast<InquireClient>(reinterpret_cast<void*>(
       GetProcAddress(GetModuleHandleW(L"rpcrt4.dll"), "I_RpcBindingInqLocalClientPID")));
   unsigned long id = 0;
   if (!inquire || inquire(nullptr, &id) != RPC_S_OK) return 0;
-  Locked locked(lock);
-  if (!watched.insert(id).second) return id;
+  Locked locked(lock_);
+  if (!watched_.insert(id).second) return id;
+  auto client = std::make_unique<Client>(Client{*this, id});
   const HANDLE process = OpenProcess(SYNCHRONIZE, FALSE, id);
-  HANDLE wait =
-      nullptr;  // Both handles are kept: one of each for a client is little, and closing races the call.
-  if (!process || !RegisterWaitForSingleObject(&wait, process, client_ended, reinterpret_cast<void*>(id),
-                                               INFINITE, WT_EXECUTEONLYONCE | WT_EXECUTELONGFUNCTION)) {
+  // Both handles are kept: one of each for a client is little, and closing races the call.
+  HANDLE wait = nullptr;
+  if (!process || !RegisterWaitForSingleObject(&wait, process, client_ended, client.get(), INFINITE,
+                                               WT_EXECUTEONLYONCE | WT_EXECUTELONGFUNCTION)) {
     if (process) CloseHandle(process);
-    watched.erase(id);
+    watched_.erase(id);
     return 0;
   }
+  client.release();  // client_ended's from here on.
   return id;
 }

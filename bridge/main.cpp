@@ -6,8 +6,11 @@
 
 #include "call_error.h"
 #include "class_factory.h"
+#include "client_watch.h"
 #include "registration.h"
-#include "values.h"
+#include "remote_object.h"
+#include "served_classes.h"
+#include "text.h"
 
 namespace {
 
@@ -23,17 +26,17 @@ int fail(const char* text) {
 }
 
 // Tells the peer what only this side of the border can see.
-void greet() {
+void greet(Peer& peer) {
   Json printers = Json::array();
   for (const std::wstring& name : local_printers()) printers.push_back(narrow(name));
   const HDC screen = GetDC(nullptr);
   const int dots_per_inch = GetDeviceCaps(screen, LOGPIXELSX);
   ReleaseDC(nullptr, screen);
-  peer().ask({{"do", "hello"},
-              {"printers", printers},
-              {"pdf_printer", narrow(kPdfPrinter)},
-              {"screen", {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)}},
-              {"dots_per_inch", dots_per_inch}});
+  peer.ask({{"do", "hello"},
+            {"printers", printers},
+            {"pdf_printer", narrow(kPdfPrinter)},
+            {"screen", {GetSystemMetrics(SM_CXSCREEN), GetSystemMetrics(SM_CYSCREEN)}},
+            {"dots_per_inch", dots_per_inch}});
 }
 
 // Every object that goes to a client needs a stub, for which the platform reads the registry anew each time,
@@ -52,30 +55,39 @@ void keep_stubs_at_hand() {
   factory->Release();
 }
 
+// What answers the clients.
+struct Server {
+  Peer peer;
+  RemoteObjects objects{peer};
+  ClientWatch clients{peer};
+  ClassFactory factories[kServedClasses.size()] = {{kServedClasses[0], peer, clients, objects},
+                                                   {kServedClasses[1], peer, clients, objects},
+                                                   {kServedClasses[2], peer, clients, objects}};
+};
+
 int serve(unsigned short port) {
   keep_stubs_at_hand();
   // A client that comes while the server is still starting makes the platform start another one.
   const HANDLE only = CreateMutexW(nullptr, TRUE, L"ZORBOffice bridge");
   if (!only || GetLastError() == ERROR_ALREADY_EXISTS) return fail("already serving");
-  if (!peer().connect(port)) return fail("no peer at the port");
+  // Never destroyed: clients may hold objects to the end of the process, and its other threads use the peer.
+  Server& server = *new Server;
+  if (!server.peer.connect(port)) return fail("no peer at the port");
   try {
-    greet();
+    greet(server.peer);
   } catch (const CallError&) {
     return fail("the peer does not answer");
   }
-  static ClassFactory factories[] = {ClassFactory(kServedClasses[0]), ClassFactory(kServedClasses[1]),
-                                     ClassFactory(kServedClasses[2])};
-  static_assert(std::size(factories) == kServedClasses.size());
-  DWORD cookies[std::size(factories)] = {};
+  DWORD cookies[kServedClasses.size()] = {};
   bool registered = true;
-  for (size_t index = 0; index < std::size(factories); ++index) {
-    registered &= SUCCEEDED(CoRegisterClassObject(kServedClasses[index].id, &factories[index],
+  for (size_t index = 0; index < std::size(cookies); ++index) {
+    registered &= SUCCEEDED(CoRegisterClassObject(kServedClasses[index].id, &server.factories[index],
                                                   CLSCTX_LOCAL_SERVER, REGCLS_MULTIPLEUSE, &cookies[index]));
   }
   if (registered) {
     std::puts("ready");
     std::fflush(stdout);
-    peer().wait_until_gone();
+    server.peer.wait_until_gone();
   }
   for (const DWORD cookie : cookies) CoRevokeClassObject(cookie);
   return registered ? 0 : fail("cannot register the class objects");

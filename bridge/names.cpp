@@ -1,18 +1,6 @@
 #include "names.h"
 
-#include "peer.h"
-#include "values.h"
-
-Names& names() {
-  static Names instance;
-  return instance;
-}
-
-std::wstring lower_case(std::wstring_view name) {
-  std::wstring result(name);
-  CharLowerBuffW(result.data(), static_cast<DWORD>(result.size()));
-  return result;
-}
+#include "text.h"
 
 DISPID Names::id_of(std::wstring_view name) {
   Locked locked(lock_);
@@ -34,7 +22,7 @@ Member Names::member(const std::string& class_name, DISPID name, long object) {
     if (const auto known = members_.find(key); known != members_.end()) return known->second;
   }
   // Asked outside the lock: two threads may both ask, and get the same answer.
-  const Json answer = peer().ask({{"do", "member"}, {"object", object}, {"name", *name_of(name)}});
+  const Json answer = peer_.ask({{"do", "member"}, {"object", object}, {"name", *name_of(name)}});
   Member member;
   member.exists = answer.is_object();
   if (member.exists) {

@@ -2,7 +2,7 @@
 #pragma once
 
 #include <windows.h>
-#include <oleauto.h>
+#include <oaidl.h>
 
 #include <map>
 #include <optional>
@@ -11,6 +11,7 @@
 #include <vector>
 
 #include "locked.h"
+#include "peer.h"
 
 // What the peer said about one member of one class.
 struct Member {
@@ -21,6 +22,9 @@ struct Member {
 
 class Names {
  public:
+  // The peer, which outlives the table, is asked about members.
+  explicit Names(Peer& peer) : peer_(peer) {}
+
   // The identifier of a name, whatever its case; a new name gets the next number.
   DISPID id_of(std::wstring_view name);
   // The name of an identifier as it was first spelt, or nothing for one that was never given out.
@@ -32,14 +36,9 @@ class Names {
   std::optional<long> constant(const std::string& class_name, DISPID name);
 
  private:
+  Peer& peer_;
   Lock lock_;
   std::map<std::wstring, DISPID> ids_;
   std::vector<std::string> spelt_;
   std::map<std::pair<std::string, DISPID>, Member> members_;
 };
-
-// The process's only table.
-Names& names();
-
-// A name in lower case, by the rules of no particular language.
-std::wstring lower_case(std::wstring_view name);

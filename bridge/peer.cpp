@@ -1,23 +1,13 @@
 #include "peer.h"
 
 #include "call_error.h"
-#include "values.h"
+#include "text.h"
 
 namespace {
 
 constexpr LONGLONG kReleaseDelay = 50LL * 10'000;  // In units of 100 ns.
 
 }  // namespace
-
-Peer& peer() {
-  static Peer instance;
-  return instance;
-}
-
-Peer::~Peer() {
-  if (socket_ != INVALID_SOCKET) closesocket(socket_);
-  if (reader_) CloseHandle(reader_);
-}
 
 bool Peer::connect(unsigned short port) {
   WSADATA data;

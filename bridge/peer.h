@@ -6,18 +6,16 @@
 #include <windows.h>
 
 #include <atomic>
-#include <nlohmann/json.hpp>
 #include <string>
 #include <vector>
 
+#include "json.h"
 #include "locked.h"
 
-using Json = nlohmann::json;
-
+// It lasts as long as the process: its threads never end.
 class Peer {
  public:
   Peer() = default;
-  ~Peer();
   Peer(const Peer&) = delete;
   Peer& operator=(const Peer&) = delete;
 
@@ -47,6 +45,3 @@ class Peer {
   std::vector<long> released_;
   std::atomic<bool> gone_ = false;
 };
-
-// The process's only peer.
-Peer& peer();

@@ -1,9 +1,10 @@
 #include "registration.h"
 
 #include <windows.h>
+#include <objbase.h>
 #include <winspool.h>
 
-#include "class_factory.h"
+#include "served_classes.h"
 
 namespace {
 

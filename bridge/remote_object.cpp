@@ -3,9 +3,8 @@
 #include <algorithm>
 
 #include "call_error.h"
-#include "names.h"
-#include "peer.h"
-#include "values.h"
+#include "text.h"
+#include "variant.h"
 
 // {6B0A9C1E-3C44-4F0B-9D38-54E1C1B8F7A2}
 const IID RemoteObject::kIid = {0x6b0a9c1e, 0x3c44, 0x4f0b, {0x9d, 0x38, 0x54, 0xe1, 0xc1, 0xb8, 0xf7, 0xa2}};
@@ -38,9 +37,23 @@ HRESULT guarded(EXCEPINFO* failure, Body body) noexcept {
 
 }  // namespace
 
+IDispatch* RemoteObjects::make(long id, std::string class_name) {
+  return new RemoteObject(*this, id, std::move(class_name));
+}
+
+std::optional<long> RemoteObjects::id_of(IUnknown& object) {
+  // A proxy of one of the bridge's own objects has come home as the object itself.
+  RemoteObject* remote = nullptr;
+  if (FAILED(object.QueryInterface(RemoteObject::kIid, reinterpret_cast<void**>(&remote))))
+    return std::nullopt;
+  const long id = remote->id();
+  remote->Release();
+  return id;
+}
+
 RemoteObject::~RemoteObject() {
   guarded(nullptr, [&] {
-    peer().release(id_);
+    all_.peer.release(id_);
     return S_OK;
   });
 }
@@ -79,8 +92,8 @@ STDMETHODIMP RemoteObject::GetIDsOfNames(REFIID, LPOLESTR* texts, UINT count, LC
       ids[0] = DISPID_NEWENUM;
       return count == 1 ? S_OK : DISP_E_UNKNOWNNAME;
     }
-    const DISPID id = names().id_of(texts[0]);
-    const Member member = names().member(class_name_, id, id_);
+    const DISPID id = all_.names.id_of(texts[0]);
+    const Member member = all_.names.member(class_name_, id, id_);
     if (!member.exists) return DISP_E_UNKNOWNNAME;
     ids[0] = id;
     HRESULT result = S_OK;
@@ -89,7 +102,7 @@ STDMETHODIMP RemoteObject::GetIDsOfNames(REFIID, LPOLESTR* texts, UINT count, LC
       if (std::find(known.begin(), known.end(), narrow(lower_case(texts[index]))) == known.end()) {
         result = DISP_E_UNKNOWNNAME;
       } else {
-        ids[index] = names().id_of(texts[index]);
+        ids[index] = all_.names.id_of(texts[index]);
       }
     }
     return result;
@@ -114,25 +127,25 @@ VARIANT RemoteObject::invoke(DISPID member, WORD flags, const DISPPARAMS& parame
   if (member == DISPID_NEWENUM) return enumerate();
   std::string name;
   if (member != DISPID_VALUE) {
-    const auto known = names().name_of(member);
+    const auto known = all_.names.name_of(member);
     if (!known) throw CallError{DISP_E_MEMBERNOTFOUND};
     name = *known;
   }
   const bool is_put = flags & (DISPATCH_PROPERTYPUT | DISPATCH_PROPERTYPUTREF);
   if (!is_put && parameters.cArgs == 0) {
-    if (const auto constant = names().constant(class_name_, member)) return to_variant(*constant);
+    if (const auto constant = all_.names.constant(class_name_, member)) return to_variant(*constant, all_);
   }
   Json arguments = Json::array();
   Json named = Json::object();
   // Arguments stand last first, the named ones before all others; the new value of a put is a named one.
   for (UINT index = parameters.cArgs; index-- > 0;) {
     try {
-      Json value = to_json(parameters.rgvarg[index]);
+      Json value = to_json(parameters.rgvarg[index], all_);
       if (index >= parameters.cNamedArgs || parameters.rgdispidNamedArgs[index] == DISPID_PROPERTYPUT) {
         arguments.push_back(std::move(value));
         continue;
       }
-      const auto argument_name = names().name_of(parameters.rgdispidNamedArgs[index]);
+      const auto argument_name = all_.names.name_of(parameters.rgdispidNamedArgs[index]);
       if (!argument_name) throw CallError{DISP_E_PARAMNOTFOUND};
       named[*argument_name] = std::move(value);
     } catch (const CallError&) {
@@ -140,16 +153,17 @@ VARIANT RemoteObject::invoke(DISPID member, WORD flags, const DISPPARAMS& parame
       throw;
     }
   }
-  return to_variant(peer().ask({{"do", is_put ? "put" : "call"},
-                                {"object", id_},
-                                {"name", name},
-                                {"arguments", std::move(arguments)},
-                                {"named", std::move(named)}}));
+  const Json answer = all_.peer.ask({{"do", is_put ? "put" : "call"},
+                                     {"object", id_},
+                                     {"name", name},
+                                     {"arguments", std::move(arguments)},
+                                     {"named", std::move(named)}});
+  return to_variant(answer, all_);
 }
 
 VARIANT RemoteObject::enumerate() const {
   Variant result;
-  VARIANT items = to_variant(peer().ask({{"do", "items"}, {"object", id_}}));
+  VARIANT items = to_variant(all_.peer.ask({{"do", "items"}, {"object", id_}}), all_);
   if (items.vt != (VT_ARRAY | VT_VARIANT)) throw CallError{DISP_E_MEMBERNOTFOUND};
   result->punkVal = new Enumeration(items);
   result->vt = VT_UNKNOWN;

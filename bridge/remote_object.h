@@ -4,8 +4,24 @@
 #include <windows.h>
 #include <oleauto.h>
 
+#include <optional>
 #include <string>
-#include <vector>
+
+#include "names.h"
+#include "peer.h"
+#include "values.h"
+
+// Makes all objects of the process, and keeps what they share. It outlives them, and the peer outlives it.
+class RemoteObjects final : public Objects {
+ public:
+  explicit RemoteObjects(Peer& peer) : peer(peer), names(peer) {}
+
+  IDispatch* make(long id, std::string class_name) override;
+  std::optional<long> id_of(IUnknown& object) override;
+
+  Peer& peer;
+  Names names;
+};
 
 class RemoteObject final : public IDispatch {
  public:
@@ -14,7 +30,8 @@ class RemoteObject final : public IDispatch {
 
   // Takes over the peer's object `id` with one reference held; the peer lets go of it when the last is gone.
   // The class name tells which objects share their members.
-  RemoteObject(long id, std::string class_name) : id_(id), class_name_(std::move(class_name)) {}
+  RemoteObject(RemoteObjects& all, long id, std::string class_name)
+      : all_(all), id_(id), class_name_(std::move(class_name)) {}
 
   long id() const { return id_; }
 
@@ -36,6 +53,7 @@ class RemoteObject final : public IDispatch {
   VARIANT enumerate() const;
 
   LONG references_ = 1;
+  RemoteObjects& all_;
   const long id_;
   const std::string class_name_;
 };

@@ -2,27 +2,11 @@
 
 #include <cmath>
 #include <cstdint>
+#include <vector>
 
 #include "call_error.h"
-#include "remote_object.h"
-
-using Json = nlohmann::json;
-
-std::string narrow(std::wstring_view text) {
-  const int length = static_cast<int>(text.size());
-  std::string result(WideCharToMultiByte(CP_UTF8, 0, text.data(), length, nullptr, 0, nullptr, nullptr),
-                     '\0');
-  WideCharToMultiByte(CP_UTF8, 0, text.data(), length, result.data(), static_cast<int>(result.size()),
-                      nullptr, nullptr);
-  return result;
-}
-
-std::wstring wide(std::string_view text) {
-  const int length = static_cast<int>(text.size());
-  std::wstring result(MultiByteToWideChar(CP_UTF8, 0, text.data(), length, nullptr, 0), L'\0');
-  MultiByteToWideChar(CP_UTF8, 0, text.data(), length, result.data(), static_cast<int>(result.size()));
-  return result;
-}
+#include "text.h"
+#include "variant.h"
 
 namespace {
 
@@ -31,7 +15,7 @@ Json number(double value) {
   return value;
 }
 
-Json element(SAFEARRAY* array, LONG* indices) {
+Json element(SAFEARRAY* array, LONG* indices, Objects& objects) {
   VARTYPE type = VT_EMPTY;
   SafeArrayGetVartype(array, &type);
   Variant item;
@@ -40,36 +24,31 @@ Json element(SAFEARRAY* array, LONG* indices) {
   const HRESULT result = SafeArrayGetElement(array, indices, place);
   if (FAILED(result)) throw CallError{result};
   if (type != VT_VARIANT) item->vt = type;
-  return to_json(*item.out());
+  return to_json(*item.out(), objects);
 }
 
 // An array of several dimensions becomes arrays within arrays, the first dimension outermost.
-Json elements(SAFEARRAY* array, std::vector<LONG>& indices, UINT dimension) {
+Json elements(SAFEARRAY* array, std::vector<LONG>& indices, UINT dimension, Objects& objects) {
   LONG first = 0, last = -1;
   SafeArrayGetLBound(array, dimension + 1, &first);
   SafeArrayGetUBound(array, dimension + 1, &last);
   Json list = Json::array();
   for (LONG index = first; index <= last; ++index) {
     indices[dimension] = index;
-    list.push_back(dimension + 1 == indices.size() ? element(array, indices.data())
-                                                   : elements(array, indices, dimension + 1));
+    list.push_back(dimension + 1 == indices.size() ? element(array, indices.data(), objects)
+                                                   : elements(array, indices, dimension + 1, objects));
   }
   return {{"array", list}};
 }
 
-Json object_to_json(IUnknown* unknown) {
-  if (!unknown) return {{"nothing", true}};
-  // A proxy of one of the bridge's own objects has come home as the object itself.
-  RemoteObject* remote = nullptr;
-  if (FAILED(unknown->QueryInterface(RemoteObject::kIid, reinterpret_cast<void**>(&remote)))) {
-    throw CallError{DISP_E_TYPEMISMATCH};
-  }
-  const long id = remote->id();
-  remote->Release();
-  return {{"object", id}};
+Json object_to_json(IUnknown* object, Objects& objects) {
+  if (!object) return {{"nothing", true}};
+  const auto id = objects.id_of(*object);
+  if (!id) throw CallError{DISP_E_TYPEMISMATCH};
+  return {{"object", *id}};
 }
 
-Json by_value(const VARIANT& value) {
+Json by_value(const VARIANT& value, Objects& objects) {
   switch (value.vt) {
     case VT_EMPTY:
       return nullptr;
@@ -115,20 +94,20 @@ Json by_value(const VARIANT& value) {
       return value.scode;
     case VT_DISPATCH:
     case VT_UNKNOWN:
-      return object_to_json(value.punkVal);
+      return object_to_json(value.punkVal, objects);
     default:
       throw CallError{DISP_E_BADVARTYPE};
   }
 }
 
-VARIANT array_to_variant(const Json& list) {
+VARIANT array_to_variant(const Json& list, Objects& objects) {
   Variant result;
   SAFEARRAY* array = SafeArrayCreateVector(VT_VARIANT, 0, static_cast<ULONG>(list.size()));
   if (!array) throw CallError{E_OUTOFMEMORY};
   result->vt = VT_ARRAY | VT_VARIANT;
   result->parray = array;
   for (LONG index = 0; index < static_cast<LONG>(list.size()); ++index) {
-    VARIANT item = to_variant(list[index]);
+    VARIANT item = to_variant(list[index], objects);
     SafeArrayPutElement(array, &index, &item);
     VariantClear(&item);
   }
@@ -137,26 +116,26 @@ VARIANT array_to_variant(const Json& list) {
 
 }  // namespace
 
-Json to_json(const VARIANT& value) {
+Json to_json(const VARIANT& value, Objects& objects) {
   if (value.vt == (VT_BYREF | VT_VARIANT)) {
     if (!value.pvarVal || value.pvarVal->vt == (VT_BYREF | VT_VARIANT)) throw CallError{DISP_E_BADVARTYPE};
-    return to_json(*value.pvarVal);
+    return to_json(*value.pvarVal, objects);
   }
   if (value.vt & VT_ARRAY) {
     SAFEARRAY* array = value.vt & VT_BYREF ? (value.pparray ? *value.pparray : nullptr) : value.parray;
     if (!array || SafeArrayGetDim(array) == 0) return {{"array", Json::array()}};
     std::vector<LONG> indices(SafeArrayGetDim(array));
-    return elements(array, indices, 0);
+    return elements(array, indices, 0, objects);
   }
-  if (!(value.vt & VT_BYREF)) return by_value(value);
+  if (!(value.vt & VT_BYREF)) return by_value(value, objects);
   if (!value.byref) throw CallError{DISP_E_BADVARTYPE};
   Variant copy;
   const HRESULT result = VariantCopyInd(copy.out(), const_cast<VARIANT*>(&value));
   if (FAILED(result)) throw CallError{result};
-  return by_value(*copy.out());
+  return by_value(*copy.out(), objects);
 }
 
-VARIANT to_variant(const Json& value) {
+VARIANT to_variant(const Json& value, Objects& objects) {
   Variant result;
   if (value.is_boolean()) {
     result->vt = VT_BOOL;
@@ -173,10 +152,10 @@ VARIANT to_variant(const Json& value) {
     if (!result->bstrVal) throw CallError{E_OUTOFMEMORY};
     result->vt = VT_BSTR;
   } else if (value.contains("object")) {
-    result->pdispVal = new RemoteObject(value["object"].get<long>(), value.value("class", std::string()));
+    result->pdispVal = objects.make(value["object"].get<long>(), value.value("class", std::string()));
     result->vt = VT_DISPATCH;
   } else if (value.contains("array")) {
-    return array_to_variant(value["array"]);
+    return array_to_variant(value["array"], objects);
   } else if (value.contains("date")) {
     result->vt = VT_DATE;
     result->date = value["date"].get<DATE>();

@@ -1,43 +1,32 @@
-// Values on their way between COM's variants and the peer's JSON, and text between UTF-16 and UTF-8.
+// Values on their way between COM's variants and the peer's JSON.
 #pragma once
 
 #include <windows.h>
 #include <oleauto.h>
 
-#include <nlohmann/json.hpp>
+#include <optional>
 #include <string>
-#include <string_view>
 
-// A variant that clears itself.
-class Variant {
+#include "json.h"
+
+// What stands for the peer's objects among variants.
+class Objects {
  public:
-  Variant() { VariantInit(&value_); }
-  ~Variant() { VariantClear(&value_); }
-  Variant(const Variant&) = delete;
-  Variant& operator=(const Variant&) = delete;
-  VARIANT* operator->() { return &value_; }
-  VARIANT* out() { return &value_; }
-  // Gives the value away; the holder is empty afterwards.
-  VARIANT detach() {
-    const VARIANT value = value_;
-    VariantInit(&value_);
-    return value;
-  }
+  // A new object in front of the peer's object `id`, with one reference held; it belongs to the caller.
+  // Objects with the same class name share their members.
+  virtual IDispatch* make(long id, std::string class_name) = 0;
+  // The peer's object behind one that was made here, or nothing for any other.
+  virtual std::optional<long> id_of(IUnknown& object) = 0;
 
- private:
-  VARIANT value_;
+ protected:
+  ~Objects() = default;
 };
-
-// UTF-16 to UTF-8; half of a surrogate pair becomes U+FFFD.
-std::string narrow(std::wstring_view text);
-// UTF-8 to UTF-16.
-std::wstring wide(std::string_view text);
 
 // Turns a client's argument of any kind, by value or by reference, into what the peer reads. A null array is
 // an empty one, a null object {"nothing"}, an omitted argument {"missing"}.
 // Throws CallError: DISP_E_TYPEMISMATCH for an object that is not the bridge's, DISP_E_BADVARTYPE for a kind
 // that has no counterpart, DISP_E_OVERFLOW for infinities.
-nlohmann::json to_json(const VARIANT& value);
+Json to_json(const VARIANT& value, Objects& objects);
 
 // Turns a value of the peer into a variant that the caller owns.
-VARIANT to_variant(const nlohmann::json& value);
+VARIANT to_variant(const Json& value, Objects& objects);
