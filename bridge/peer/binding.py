@@ -27,6 +27,20 @@ class Published:
             raise NoSuchMember from None
 
 
+class Collection(Published):
+    """A collection whose items are counted from 1."""
+
+    DEFAULT = "Item"
+
+    def all(self):
+        """Return all items."""
+        raise NotImplementedError
+
+    @property
+    def Count(self) -> int:
+        return len(self.all())
+
+
 def parameters(item, name):
     """Return the names of a member's parameters, or None where the object has no such member."""
     try:

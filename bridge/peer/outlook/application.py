@@ -2,14 +2,14 @@
 
 import json
 
-from binding import Published, call, parameters, put
-from failures import Failure, PEER_GONE
+from binding import Published
 from handles import NOTHING, NoSuchMember
 from outlook.items import Items
 from outlook.kinds import of_type
 from outlook.mailbox import read_mailbox
 from outlook.model import BAD_VALUE, Collection, OutlookError, read_file
 from outlook.store import FOLDERS, Store
+from session import ModelSession
 
 NAME = "Stand-in for Outlook"
 
@@ -45,8 +45,10 @@ class Outlook:
         self.shown = [each for each in self.shown if each is not item]
 
 
-class OutlookSession:
+class OutlookSession(ModelSession):
     """What one client has created."""
+
+    MODEL = "outlook"
 
     def __init__(self, outlook):
         self._outlook = outlook
@@ -55,29 +57,8 @@ class OutlookSession:
     def end(self):
         """What a client leaves behind is the program's own: nothing."""
 
-    def class_name(self, item):
-        return "outlook " + type(item).__name__
-
-    def parameters(self, item, name):
-        return parameters(item, name)
-
-    def call(self, item, name, arguments, named):
-        self._require()
-        return call(item, name, arguments, named)
-
-    def put(self, item, name, arguments):
-        self._require()
-        put(item, name, arguments)
-
-    def items(self, item):
-        self._require()
-        if not isinstance(item, Collection):
-            raise Failure.member_not_found()
-        return item.all()
-
-    def _require(self):
-        if self.root is not self._outlook.application:
-            raise Failure(PEER_GONE)
+    def is_over(self):
+        return self.root is not self._outlook.application
 
 
 class Application(Published):

@@ -2,7 +2,8 @@
 
 import datetime
 
-from binding import Published, converted
+import binding
+from binding import converted
 from failures import Failure
 
 # The numbers and texts of Outlook's failures.
@@ -36,18 +37,8 @@ class OutlookError(Failure):
         super().__init__(number, f"{text} {more}".rstrip(), "Outlook (stand-in)")
 
 
-class Collection(Published):
-    """A collection whose items are counted from 1, or found by the text of their default member."""
-
-    DEFAULT = "Item"
-
-    def all(self):
-        """Return all items."""
-        raise NotImplementedError
-
-    @property
-    def Count(self) -> int:
-        return len(self.all())
+class Collection(binding.Collection):
+    """A collection whose items are also found by the text of their default member."""
 
     def Item(self, Index):
         items = self.all()

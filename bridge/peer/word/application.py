@@ -4,10 +4,11 @@ import os
 
 import uno
 
-from binding import converted, parameters
-from failures import Failure, PEER_GONE, UnoException
+from binding import converted
+from failures import UnoException
 from handles import Single
-from word import binding, filters, templates
+from session import ModelSession
+from word import filters, templates
 from word.binding import (
     BAD_PATH,
     COMMAND_FAILED,
@@ -20,6 +21,7 @@ from word.binding import (
     PRINTER_ERROR,
     WordError,
     WordObject,
+    guarded,
     kept,
 )
 from word.document import Document
@@ -42,8 +44,10 @@ NUMBERED_LISTS = "/org.openoffice.Office.Writer/AutoFunction/Format/ByInput/Appl
 LONGEST_PATH = 255  # What the word processor takes.
 
 
-class WordSession:
+class WordSession(ModelSession):
     """One client's word processor: its documents are its own, LibreOffice is everybody's."""
+
+    MODEL = "word"
 
     def __init__(self, context, paths, surroundings, pdf_folder):
         self._context = context
@@ -52,18 +56,24 @@ class WordSession:
         self.pdf_folder = pdf_folder
         self.documents = []
         self.created = 0
-        self.is_over = False
+        self._ended = False
         self.root = Application(self)
 
     def end(self):
         """Close everything unsaved; what a client still holds fails from now on as after a program's end."""
-        self.is_over = True
+        self._ended = True
         for document in self.documents:
             try:
                 document.discard()
             except UnoException:
                 pass  # Already closed behind the session's back.
         self.documents = []
+
+    def is_over(self):
+        return self._ended
+
+    def guarded(self, body):
+        return guarded(body)
 
     def service(self, name):
         return self._context.getServiceManager().createInstanceWithContext(name, self._context)
@@ -115,32 +125,6 @@ class WordSession:
         document = Document(self, model, f"Document{self.created}")
         self.documents.append(document)
         return document
-
-    # What every session offers
-
-    def class_name(self, item):
-        return "word " + type(item).__name__
-
-    def parameters(self, item, name):
-        return parameters(item, name)
-
-    def call(self, item, name, arguments, named):
-        self._require()
-        return binding.call(item, name, arguments, named)
-
-    def put(self, item, name, arguments):
-        self._require()
-        binding.put(item, name, arguments)
-
-    def items(self, item):
-        self._require()
-        if not isinstance(item, Collection):
-            raise Failure.member_not_found()
-        return item.all()
-
-    def _require(self):
-        if self.is_over:
-            raise Failure(PEER_GONE)
 
 
 class Documents(Collection):

@@ -38,18 +38,8 @@ class WordObject(Published):
     """Base of all objects of the word processor's model."""
 
 
-class Collection(WordObject):
-    """A collection whose items are counted from 1."""
-
-    DEFAULT = "Item"
-
-    def all(self):
-        """Return all items."""
-        raise NotImplementedError
-
-    @property
-    def Count(self):
-        return len(self.all())
+class Collection(binding.Collection, WordObject):
+    """A collection that takes numbers only."""
 
     def Item(self, Index: int):
         items = self.all()
@@ -77,17 +67,8 @@ def kept(kind, initial, allowed=None, longest=None):
     return property(read, write)
 
 
-def call(item, name, arguments, named):
-    """Read a property or call a method; what LibreOffice reports fails as the word processor would."""
-    return _guarded(lambda: binding.call(item, name, arguments, named))
-
-
-def put(item, name, arguments):
-    """Write a property, and fail in the same way."""
-    _guarded(lambda: binding.put(item, name, arguments))
-
-
-def _guarded(body):
+def guarded(body):
+    """Run a call's body; what LibreOffice reports fails as the word processor would."""
     try:
         return body()
     except Disposed as error:
