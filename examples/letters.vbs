@@ -36,7 +36,7 @@ word.SetScreenUpdating False
 written = 0
 For i = 0 To count - 1
   If WriteLetter(customers(i)) Then written = written + 1
-  WScript.Echo CStr(i + 1) & " of " & count & ": " & customers(i)(0)
+  WScript.Echo CStr(i + 1) & " of " & count & ": written " & customers(i)(0)
 Next
 word.StopWord False
 Set word = Nothing
@@ -47,6 +47,7 @@ If writer.Start <> 1 Then Fail "the office suite does not start"
 For i = 0 To count - 1
   If writer.OpenDoc(folder & "letter-" & customers(i)(0) & ".docx") <> 1 Then Fail "OpenWriter cannot open letter " & customers(i)(0)
   If InStr(writer.ReadText(0, 0), customers(i)(1)) = 0 Then Fail "OpenWriter does not find " & customers(i)(1) & " in the letter"
+  WScript.Echo CStr(i + 1) & " of " & count & ": read " & customers(i)(0)
 Next
 WScript.Echo count & " letters read, each with its customer's name"
 WScript.Echo "letters.vbs: done"

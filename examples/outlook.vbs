@@ -25,14 +25,16 @@ WScript.Echo "outlook.vbs: done"
 
 ' Every mail of the inbox, whatever else lies between them.
 Sub Walk
-  Dim started, mails, unimportant
+  Dim started, mails, expected
   started = Timer
+  Need outlook.InitItems("Email", "[MessageClass] = 'IPM.Note'"), "the mails cannot be counted"
+  expected = outlook.GetItemCount("Email")
   Need outlook.InitItems("Email", ""), "the inbox cannot be read"
   mails = 0
-  unimportant = 0
   found = outlook.GetFirstItem("Email")
   Do While found
     mails = mails + 1
+    If mails Mod 100 = 0 Then WScript.Echo mails & " of " & expected & " mails"
     found = outlook.GetNextItem("Email")
   Loop
   WScript.Echo "Inbox: " & mails & " mails among " & outlook.GetItemCount("Email") & " items, walked in " & _
