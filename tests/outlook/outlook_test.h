@@ -6,22 +6,51 @@
 
 class OutlookTest : public ControlTest<FakeOutlook, 1> {
  protected:
-  OutlookTest();
-  ~OutlookTest();
+  OutlookTest() : hook_(SetWindowsHookExW(WH_CBT, window_event, nullptr, GetCurrentThreadId())) {
+    running_ = this;
+  }
+  ~OutlookTest() { UnhookWindowsHookEx(hook_); }
 
   // Replaces the control by a new one that has recorded `unset`, started a session, filled the collection of
   // every kind and created a current item of every kind.
-  void make_ready();
+  void make_ready() {
+    renew();
+    expect(L"StopOutlook", {true}, "bool 0");
+    expect(L"StartOutlook", {}, "bool -1");
+    for (const auto& kind : item_kinds) {
+      expect(L"InitItems", {kind.word, text({})}, "bool -1");
+      expect(L"CreateItem", {kind.word}, "bool -1");
+    }
+    log();
+  }
   // Forgets what was seen at earlier boxes, and does what ControlTest's does.
   void expect(const wchar_t* member, const Arguments& arguments, const std::string& result,
-              const std::string& boxes = "");
+              const std::string& boxes = "") {
+    errors_at_boxes_.clear();
+    ControlTest::expect(member, arguments, result, boxes);
+  }
   // The last error as the host reads it, and as it must read one of that number and description.
-  std::string last_error();
-  static std::string recorded(int number, const std::string& description);
+  std::string last_error() { return call(L"GetLastErrorNumber") + " " + call(L"GetLastErrorDescription"); }
+  static std::string recorded(int number, const std::string& description) {
+    return "i2 " + std::to_string(number) + " bstr \"" + description + "\"";
+  }
   // Current item and collection of every kind, by their objects' names: "|Appointment|AppointmentItems|…|".
-  std::string held();
+  std::string held() {
+    log();
+    for (const auto& kind : item_kinds)
+      for (const auto* member : {L"SaveItem", L"GetItemCount"}) call(member, {kind.word});
+    std::string names = "|";
+    for (const auto& line : std::exchange(office_.log, {}))
+      names += line.substr(line.find(' ') + 1, line.find('.') - line.find(' ') - 1) + "|";
+    return names;
+  }
   // A string, which may hold nulls; the null string for {}.
-  static _variant_t text(std::wstring_view text);
+  static _variant_t text(std::wstring_view text) {
+    VARIANT value = {};
+    value.vt = VT_BSTR;
+    if (text.data()) value.bstrVal = SysAllocStringLen(text.data(), static_cast<UINT>(text.size()));
+    return {value, false};
+  }
 
   const std::string not_set = "Object variable or With block variable not set", unset = recorded(91, not_set);
 
@@ -30,7 +59,16 @@ class OutlookTest : public ControlTest<FakeOutlook, 1> {
   std::function<void()> at_box_;
 
  private:
-  static LRESULT CALLBACK window_event(int event, WPARAM window, LPARAM details);
+  static LRESULT CALLBACK window_event(int event, WPARAM window, LPARAM details) {
+    wchar_t kind[8] = {};
+    GetClassNameW(reinterpret_cast<HWND>(window), kind, 8);
+    if (event == HCBT_CREATEWND && std::wstring_view(kind) == L"#32770") {
+      running_->errors_at_boxes_.push_back(running_->last_error());
+      if (running_->at_box_) running_->at_box_();
+    }
+    return CallNextHookEx(nullptr, event, window, details);
+  }
 
-  HHOOK hook_;
+  inline static OutlookTest* running_;
+  const HHOOK hook_;
 };

@@ -26,14 +26,13 @@ class Recurrence : public PropertyTest {
   // Makes the call, whose every step is failed in turn first, which must show nothing and record that.
   void check_steps(const wchar_t* member, const Arguments& arguments, const std::string& steps,
                    const std::string& result, const std::string& failed = nothing) {
-    for (size_t end = 0; end != std::string::npos;) {
-      end = steps.find(" | ", end + 1);
-      ++office_.fail_at;
-      check(member, arguments, failed, steps.substr(0, end));
-      EXPECT_EQ(last_error(), recorded(5941, "No such member."));
-    }
-    office_.fail_at = 0;
-    check(member, arguments, result, steps);
+    for_each_step(steps, [&](size_t step, const std::string& reached) {
+      office_.fail_at = step;
+      check(member, arguments, step ? failed : result, reached);
+      if (step) {
+        EXPECT_EQ(last_error(), recorded(5941, "No such member."));
+      }
+    });
   }
 };
 

@@ -8,6 +8,12 @@
 
 using Arguments = std::vector<_variant_t>;
 
+// The path of a file of the project, which the library is built below.
+inline std::wstring project_file(const std::wstring& name) {
+  const auto path = outside::library_path();
+  return path.substr(0, path.rfind(L"\\build\\") + 1) + name;
+}
+
 // The office's log since the last call, steps separated by " | ".
 inline std::string taken_log(FakeOffice& office) {
   std::string all;
@@ -76,17 +82,17 @@ class ControlTest : public HostTest<class_index> {
 
   std::string log() { return taken_log(office_); }
 
-  Office office_;
-};
-
-template <class Office, int class_index>
-class WordProcessorTest : public ControlTest<Office, class_index> {
- protected:
-  // Replaces the control by a new one that has started the application and opened a document.
-  void make_ready() {
-    this->renew();
-    this->expect(L"Start", {}, "ui1 1");
-    this->expect(L"OpenDoc", {L"C:\\a.docx"}, "ui1 1");
-    this->log();
+  // Calls `attempt` for each of the steps, which " | " separates, with its number and all steps as far as it,
+  // and at last with 0 and all of them.
+  template <class Attempt>
+  static void for_each_step(const std::string& steps, const Attempt& attempt) {
+    for (size_t step = 1, end = steps.empty() ? std::string::npos : 0; end != std::string::npos; ++step) {
+      SCOPED_TRACE(step);
+      end = steps.find(" | ", end + 1);
+      attempt(step, steps.substr(0, end));
+    }
+    attempt(0, steps);
   }
+
+  Office office_;
 };

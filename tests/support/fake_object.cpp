@@ -48,6 +48,16 @@ HRESULT WINAPI fill_in(EXCEPINFO* info) {
   return S_OK;
 }
 
+void change(const DISPPARAMS& parameters) {
+  for (UINT i = 0; i < parameters.cArgs; ++i) {
+    const VARIANT& argument = parameters.rgvarg[i];
+    if (argument.vt == (VT_BYREF | VT_I2)) *argument.piVal *= 10;
+    if (argument.vt == (VT_BYREF | VT_I4)) *argument.plVal *= 10;
+    if (argument.vt == (VT_BYREF | VT_BSTR))
+      SysReAllocString(argument.pbstrVal, (std::wstring(*argument.pbstrVal) + L"!").c_str());
+  }
+}
+
 // Counts references and, with its office, living objects.
 template <class Interface>
 class Recorded : public Interface {
@@ -141,6 +151,7 @@ class FakeObject final : public Recorded<IDispatch> {
     const std::string line = known_as(invocations, flags) + path + arguments + put_value;
     if (const HRESULT failed = office_.step(line, info); FAILED(failed)) return failed;
     if (answer.effect) answer.effect(*parameters);
+    if (office_.writes) change(*parameters);
     if (!result) return S_OK;
     _variant_t given = answer.value;
     if (answer.object) given = _variant_t(office_.make(answer.object), false);

@@ -1,22 +1,13 @@
-// What every member asks of the word processor, and how it fails at each of its steps.
-#include <regex>
+// What every member asks of the word processor or the suite, and how it fails at each of its steps.
 #include <set>
+#include <span>
 
-#include "support/text.h"
 #include "word_test.h"
+#include "writer/writer_test.h"
 
 namespace {
 
-// A member's call on a control with an open document, its result and the steps that it takes. The steps that
-// reach an object as `reached` has it are left out.
-struct Row {
-  const wchar_t* member;
-  std::vector<_variant_t> arguments;
-  const char* result;
-  std::string steps;
-  std::map<std::string, Answer> answers = {};
-};
-
+// The steps that reach an object are left out of the rows.
 const std::map<std::string, std::string> reached = {
     {"\\w+ Documents\\.", "get Application.Documents | "},
     {"\\w+ Options\\.", "get Application.Options | "},
@@ -68,7 +59,7 @@ const Row documents[] = {
     {L"FinaliseDoc", {}, "empty", finalised},
     {L"SaveDoc", {}, "empty", "call Document.Save"},
     {L"SaveDoc", {L""}, "empty", "call Document.Save"},
-    {L"SaveDoc", {L"c.docx"}, "empty", R"(call Document.SaveAs(&bstr "c.docx"))"},
+    {L"SaveDoc", {L"c"}, "empty", R"(call Document.SaveAs(&bstr "c"))", {}, "", "Save Doc : % c"},
     {L"SaveDocAsPDF", {}, "bool 0", printers},
     {L"CloseDoc", {}, "empty", "call Document.Close(&i2 0, i4 1, bool 0)"},
     {L"CloseDoc", {-1}, "empty", "call Document.Close(&i2 -1, i4 1, bool 0)"},
@@ -232,83 +223,23 @@ const Row headers[] = {
     {L"ReplaceHeaderFooter", {2, true, 1, L"a", L"b"}, "ui1 0", part("Headers", 1) + in_header + one, {miss}},
 };
 
-// The messages of failure by member, where % is the failure's description, # its number and @ the first
-// argument. A member that is not here is silent, except for those that let the failure reach the host.
-const std::string messages =
-    "|SetVisible=SetVisible%|SetActive=Set Active %|SetScreenUpdating=Set Screen Updating %|"
-    "GetDefaultPaths=GetDefaultPaths %|OpenDoc=OpenDoc %|CreateDoc=Create Doc %|FinaliseDoc=Finalise %|"
-    "SaveDoc=Save Doc : % @|SaveDocAsPDF=Unable to print pdf : %|CloseDoc=Close Doc %|"
-    "PrintDoc=Print Doc # :  %|SendText=SendText %|ReadText=ReadText : %|SelectionText=SelectionText %|"
-    "Paste=Paste %|SelectParagraph=Select Paragraph %|CursorLeft=Cursor Left %|"
-    "CursorRight=Cursor Right %|CursorStartOfParagraph=CursorEndOfParagraph%|"
-    "CursorStartOfCell=CursorStartOfCell%|CursorEndOfCell=CursorEndOfCell%|"
-    "CursorEndOfParagraph=CursorEndOfParagraph%|Move=Move :%|Search=Search %|InTable=InTable %|"
-    "SelectRow=Select Row %|CellCount=CellCount %|CellText=CellText %|ReadHeaderFooterText=Read h/f : %|"
-    "ReplaceHeaderFooter=Replace Header/Footer %|";
-const std::set<std::wstring> raising = {L"StopWord", L"IsPrinting", L"NumberOfSections"};
+// OpenWriter has all but its own members from ZORBWord.
+using ControlTypes = testing::Types<WordTest, WriterTest>;
+template <class Control>
+using Members = Control;
+TYPED_TEST_SUITE(Members, ControlTypes);
 
-class Members : public WordTest, public testing::WithParamInterface<Row> {
- protected:
-  Members() {
-    for (const auto& [path, answer] : row_.answers) office_.answers[path] = answer;
-    for (const auto& [step, way] : reached) steps_ = std::regex_replace(steps_, std::regex(step), way + "$&");
-  }
-
-  // Calls the row's member, which must fail as it promises for the office's failure.
-  void expect_failure() {
-    const std::string description = "No such member.";
-    std::string message, result = row_.result, first;
-    if (!row_.arguments.empty())
-      first = std::regex_replace(describe(row_.arguments[0]), std::regex("bstr |\""), "");
-    if (const auto at = messages.find("|" + utf8(row_.member) + "="); at != std::string::npos) {
-      const auto from = messages.find('=', at) + 1;
-      message = messages.substr(from, messages.find('|', from) - from);
+TYPED_TEST(Members, TakeTheirStepsAndStopAtTheOneThatFails) {
+  const std::set<std::wstring> own = {L"Start",   L"SetVisible", L"SetActive", L"SetScreenUpdating",
+                                      L"OpenDoc", L"CreateDoc",  L"CloseDoc",  L"ReadText",
+                                      L"Search"};
+  for (const auto table : {std::span<const Row>(session), {documents}, {text}, {search}, {tables}, {headers}})
+    for (Row row : table) {
+      if (std::is_same_v<TypeParam, WriterTest> && own.contains(row.member)) continue;
+      for (const auto& [step, way] : reached)
+        row.steps = std::regex_replace(row.steps, std::regex(step), way + "$&");
+      this->check(row);
     }
-    for (const auto& [mark, text] : {std::pair{"%", description}, {"#", "5941"}, {"@", first}})
-      message = std::regex_replace(message, std::regex(mark), text);
-    result = std::regex_replace(result, std::regex(" [^]*"), result.starts_with("bstr") ? " \"\"" : " 0");
-    if (raising.contains(row_.member)) result = "raised 800A1735 " + description;
-    expect(row_.member, row_.arguments, result, message);
-    expect(L"GetLastErrorNumber", {}, "i4 0");
-    expect(L"GetLastErrorDescription", {}, "bstr \"\"");
-  }
-
-  const Row& row_ = GetParam();
-  std::string steps_ = row_.steps;
-};
-
-TEST_P(Members, TakeTheirSteps) {
-  make_ready();
-  expect(row_.member, row_.arguments, row_.result);
-  EXPECT_EQ(log(), steps_);
 }
-
-TEST_P(Members, StopAtTheStepThatFails) {
-  for (size_t step = 1, end = 0; end != std::string::npos; ++step) {
-    SCOPED_TRACE(step);
-    make_ready();
-    office_.fail_at = step;
-    expect_failure();
-    end = steps_.find(" | ", end + 1);
-    EXPECT_EQ(log(), steps_.substr(0, end));
-    office_.fail_at = 0;
-    expect(L"SaveDoc", {}, "empty");
-    expect(L"SetActive", {true}, "ui1 1");
-    EXPECT_EQ(log(), "call Document.Save | call Application.Activate") << "the earlier state is kept";
-  }
-}
-
-void PrintTo(const Row& row, std::ostream* out) { *out << row.steps; }
-
-std::string name_of(const testing::TestParamInfo<Row>& row) {
-  return utf8(row.param.member) + std::to_string(row.index);
-}
-
-INSTANTIATE_TEST_SUITE_P(Session, Members, testing::ValuesIn(session), name_of);
-INSTANTIATE_TEST_SUITE_P(Documents, Members, testing::ValuesIn(documents), name_of);
-INSTANTIATE_TEST_SUITE_P(Text, Members, testing::ValuesIn(text), name_of);
-INSTANTIATE_TEST_SUITE_P(Search, Members, testing::ValuesIn(search), name_of);
-INSTANTIATE_TEST_SUITE_P(Tables, Members, testing::ValuesIn(tables), name_of);
-INSTANTIATE_TEST_SUITE_P(Headers, Members, testing::ValuesIn(headers), name_of);
 
 }  // namespace
