@@ -4,15 +4,25 @@
 #include "support/control_test.h"
 #include "support/fake_outlook.h"
 
+// 5 March 2007 at that time as the office application answers dates.
+inline _variant_t march_5(int hour, int minute = 0, int second = 0) {
+  return {39146 + (hour * 3600 + minute * 60 + second) / 86400.0, VT_DATE};
+}
+
 class OutlookTest : public ControlTest<FakeOutlook, 1> {
  protected:
   OutlookTest() : hook_(SetWindowsHookExW(WH_CBT, window_event, nullptr, GetCurrentThreadId())) {
     running_ = this;
+    office_.objects.insert({"Parent", "Recipients"});
+    office_.answers["Recipients.[newenum]"] = {.items = {"First", "Second"}};
+    office_.answers["Appointment.Start"] = {march_5(14, 30)};
+    office_.answers["Appointment.Subject"] = {L"Lunch"};
   }
   ~OutlookTest() { UnhookWindowsHookEx(hook_); }
 
   // Replaces the control by a new one that has recorded `unset`, started a session, filled the collection of
-  // every kind and created a current item of every kind.
+  // every kind, created a current item of every kind and taken the appointment's recurrence pattern
+  // "Pattern".
   void make_ready() {
     renew();
     expect(L"StopOutlook", {true}, "bool 0");
@@ -21,6 +31,7 @@ class OutlookTest : public ControlTest<FakeOutlook, 1> {
       expect(L"InitItems", {kind.word, text({})}, "bool -1");
       expect(L"CreateItem", {kind.word}, "bool -1");
     }
+    expect(L"GetRecurrencePattern", {}, "bool -1");
     log();
   }
   // Forgets what was seen at earlier boxes, and does what ControlTest's does.
@@ -28,6 +39,12 @@ class OutlookTest : public ControlTest<FakeOutlook, 1> {
               const std::string& boxes = "") {
     errors_at_boxes_.clear();
     ControlTest::expect(member, arguments, result, boxes);
+  }
+  // Does what expect does, and the call must take `steps`.
+  void check(const wchar_t* member, const Arguments& arguments, const std::string& result,
+             const std::string& steps = "", const std::string& shown = "") {
+    expect(member, arguments, result, shown);
+    EXPECT_EQ(log(), steps);
   }
   // The last error as the host reads it, and as it must read one of that number and description.
   std::string last_error() { return call(L"GetLastErrorNumber") + " " + call(L"GetLastErrorDescription"); }
@@ -72,3 +89,19 @@ class OutlookTest : public ControlTest<FakeOutlook, 1> {
   inline static OutlookTest* running_;
   const HHOOK hook_;
 };
+
+// What SetRecurrenceProperty's boxes are titled with, as expect takes it, and the steps to that.
+const std::string title = "[Lunch 3/5/2007 2:30:00 PM] ",
+                  title_steps = "get Appointment.Subject | get Appointment.Start";
+
+// A result that is `text`, as check takes it.
+inline std::string text_result(const std::string& text) { return "bstr \"" + text + "\""; }
+// An argument or an answer.
+inline _variant_t value_of(const std::string& ascii) {
+  return std::wstring(ascii.begin(), ascii.end()).c_str();
+}
+inline std::vector<std::string> split(const std::string& list, char separator) {
+  std::vector<std::string> parts(1);
+  for (const char each : list) each == separator ? parts.emplace_back() : parts.back() += each;
+  return parts;
+}

@@ -10,7 +10,7 @@ constexpr GUID class_id = {0xb7c1e0a4, 0x52d9, 0x4e0b, {0x8f, 0x3a, 0x6d, 0x5c, 
 }  // namespace
 
 FakeOutlook::FakeOutlook() : FakeApplication("Outlook.Application", class_id) {
-  objects = {"Attachments"};
+  objects = {"Attachments", "Exceptions"};
   answers = {
       {"Application.GetNamespace", {.object = "NameSpace"}},
       {"NameSpace.GetDefaultFolder(i4 5)", {.object = "SentMail"}},

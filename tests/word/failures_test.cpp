@@ -81,42 +81,4 @@ TEST_F(Failures, DoNotTakeTheTextOfAnEarlierOne) {
   }
 }
 
-// The office application answers what its object model does not have.
-TEST_F(Failures, OfNonsensicalAnswersKeepTheEarlierState) {
-  const _variant_t nothing(static_cast<IDispatch*>(nullptr));
-  const std::string unset = "Object variable or With block variable not set";
-  _variant_t null;
-  null.vt = VT_NULL;
-  const struct {
-    const char* path;
-    _variant_t answer;
-    const wchar_t* member;
-    Arguments arguments;
-    std::string result, message;
-  } rows[] = {
-      {"Application.Documents", nothing, L"OpenDoc", {L"a"}, "ui1 0", "OpenDoc " + unset},
-      {"Documents.Open", nothing, L"OpenDoc", {L"a"}, "ui1 0", "OpenDoc " + unset},
-      {"Documents.Open", 7, L"OpenDoc", {L"a"}, "ui1 0", "OpenDoc Object required"},
-      {"Documents.Add", {}, L"CreateDoc", {}, "ui1 0", "Create Doc Object required"},
-      {"Document.Sections", 7, L"ReadText", {0, 0}, "bstr \"\"", "ReadText : Object required"},
-      {"ActiveWindow.Selection", L"", L"Paste", {}, "empty", "Paste Object required"},
-      {"Selection.Text", null, L"SelectionText", {}, "bstr \"\"", "SelectionText Type mismatch"},
-      {"Range2.Text", null, L"ReadText", {0, 0}, "bstr \"\"", "ReadText : Type mismatch"},
-      {"Application.BackgroundSavingStatus", 40000, L"IsPrinting", {}, "raised 800A0006 Overflow", ""},
-      {"Documents.Count", L"many", L"StopWord", {}, "raised 800A000D Type mismatch", ""},
-  };
-  for (const auto& row : rows) {
-    SCOPED_TRACE(row.path);
-    make_ready();
-    const auto usual = office_.answers;
-    office_.answers[row.path] = {row.answer};
-    expect(row.member, row.arguments, row.result, row.message);
-    log();
-    expect(L"SaveDoc", {}, "empty");
-    expect(L"SetActive", {true}, "ui1 1");
-    EXPECT_EQ(log(), "call Document.Save | call Application.Activate");
-    office_.answers = usual;
-  }
-}
-
 }  // namespace

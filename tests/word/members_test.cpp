@@ -14,6 +14,17 @@ const std::map<std::string, std::string> reached = {
     {"\\w+ System\\.", "get Application.System | "},
     {"\\w+ Selection\\.", "get Document.ActiveWindow | get ActiveWindow.Selection | "}};
 
+_variant_t null_value() {
+  _variant_t value;
+  value.ChangeType(VT_NULL);
+  return value;
+}
+// What the office application answers against its object model.
+const _variant_t nothing(static_cast<IDispatch*>(nullptr));
+const std::string unset = "Object variable or With block variable not set", required = "Object required",
+                  mismatch = "Type mismatch", no_text = "bstr \"\"", selected_text = "get Selection.Text",
+                  asked = "get Application.Documents";
+
 const std::string unnumbered =
     "create Word.Application | put Options.AutoFormatAsYouTypeApplyNumberedLists=bool 0";
 const std::string placed =
@@ -42,6 +53,7 @@ const Row session[] = {
     {L"StopWord", {true}, "empty", quit},
     {L"StopWord", {}, "empty", "get Documents.Count | " + quit},
     {L"StopWord", {false}, "empty", "get Documents.Count", {{"Documents.Count", {1}}}},
+    {L"StopWord", {}, "raised 800A000D " + mismatch, "get Documents.Count", {{"Documents.Count", {L"many"}}}},
     {L"GetDefaultPaths", {2}, R"(bstr "C:\Documents")", "get Options.DefaultFilePath(&i2 2)"},
 };
 
@@ -52,9 +64,19 @@ const std::string printers = R"(get Application.ActivePrinter | put Application.
 const std::string statuses =
     "get Application.BackgroundPrintingStatus | get Application.BackgroundSavingStatus";
 
+const std::string opened = R"(get Documents.Open(&bstr "a"))",
+                  added = R"(get Documents.Add(Template:=&bstr ""))";
+
+const std::pair<const std::string, Answer> busy = {"Application.BackgroundSavingStatus", {40000}},
+                                           null_chosen = {"Selection.Text", {null_value()}};
+
 const Row documents[] = {
+    {L"OpenDoc", {L"a"}, "ui1 0", asked, {{"Application.Documents", {nothing}}}, "OpenDoc " + unset},
+    {L"OpenDoc", {L"a"}, "ui1 0", opened, {{"Documents.Open", {nothing}}}, "OpenDoc " + unset},
+    {L"OpenDoc", {L"a"}, "ui1 0", opened, {{"Documents.Open", {7}}}, "OpenDoc " + required},
+    {L"CreateDoc", {}, "ui1 0", added, {{"Documents.Add", Answer{}}}, "Create Doc " + required},
     {L"OpenDoc", {L"C:\\b.docx"}, "ui1 1", R"(get Documents.Open(&bstr "C:\b.docx"))"},
-    {L"CreateDoc", {}, "ui1 1", R"(get Documents.Add(Template:=&bstr ""))"},
+    {L"CreateDoc", {}, "ui1 1", added},
     {L"CreateDoc", {L"a.dotx"}, "ui1 1", R"(get Documents.Add(Template:=&bstr "a.dotx"))"},
     {L"FinaliseDoc", {}, "empty", finalised},
     {L"SaveDoc", {}, "empty", "call Document.Save"},
@@ -66,6 +88,7 @@ const Row documents[] = {
     {L"PrintDoc", {2}, "empty", "call Document.PrintOut(Copies:=&i2 2)"},
     {L"PrintDoc", {2, true}, "empty", "call Document.PrintOut(Copies:=&i2 2)"},
     {L"IsPrinting", {}, "i2 2", statuses},
+    {L"IsPrinting", {}, "raised 800A0006 Overflow", statuses, {busy}},
 };
 
 const std::string to_the_end =
@@ -78,14 +101,22 @@ const std::string by_sections =
 const std::string first_paragraph =
     "get Selection.Paragraphs(i2 1) | get Paragraphs.Range | call Range.Select";
 
+const std::string sections = "get Document.Sections",
+                  window = "get Document.ActiveWindow | get ActiveWindow.Selection",
+                  two_sections = by_sections.substr(0, by_sections.find("Range2.Text") + 11);
+
 const Row text[] = {
+    {L"ReadText", {0, 0}, no_text, sections, {{"Document.Sections", {7}}}, "ReadText : " + required},
+    {L"ReadText", {0, 0}, no_text, two_sections, {{"Range2.Text", {null_value()}}}, "ReadText : " + mismatch},
+    {L"Paste", {}, "empty", window, {{"ActiveWindow.Selection", {L""}}}, "Paste " + required},
+    {L"SelectionText", {}, no_text, selected_text, {null_chosen}, "SelectionText " + mismatch},
     {L"SendText", {L"Dear \x20ac"}, "ui1 1", "call Selection.TypeText(bstr \"Dear \xe2\x82\xac\")"},
     {L"ReadText", {2, 5}, R"(bstr "0123456789")", "get Document.Range(&i4 2, &i4 5) | get Range.Text"},
     {L"ReadText", {3, 0}, R"(bstr "3456789")", to_the_end},
     {L"ReadText", {0, 5}, R"(bstr "0123456789")", "get Document.Range(i2 1, i4 5) | get Range.Text"},
     {L"ReadText", {-7, 1}, R"(bstr "0123456789")", "get Document.Range(i2 1, i4 1) | get Range.Text"},
     {L"ReadText", {0, -1}, R"(bstr "one two three")", by_sections},
-    {L"SelectionText", {}, R"(bstr "chosen")", "get Selection.Text"},
+    {L"SelectionText", {}, R"(bstr "chosen")", selected_text},
     {L"Cut", {}, "empty", "call Selection.Cut"},
     {L"Paste", {}, "empty", "call Selection.Paste"},
     {L"SelectParagraph", {}, "empty", first_paragraph},
@@ -101,35 +132,26 @@ const Row text[] = {
     {L"GotoLine", {7}, "bool -1", "call Selection.GoTo(What:=i4 3, Which:=i4 1, Count:=&i2 7)"},
 };
 
-// The selection is fetched once and its Find for every setting.
-const auto searched = [](const std::string& top, const std::string& settings) {
+// Text, direction and wrap, then the match flags, "1" for a true one. The selection is fetched once and its
+// Find for every setting.
+std::string searched(const std::string& top, std::string settings, const std::string& flags) {
+  const char* const names[] = {"Case", "WholeWord", "Wildcards", "SoundsLike", "AllWordForms"};
+  settings += ";Format=bool 0";
+  for (size_t i = 0; i < 5; ++i)
+    settings += std::string(";Match") + names[i] + (flags[i] == '1' ? "=bool -1" : "=bool 0");
   const std::string fetched = " | get Chosen.Find | ";
   return "get Document.ActiveWindow | get ActiveWindow.Selection" + top + fetched +
          "call Find.ClearFormatting" + std::regex_replace(settings, std::regex(";"), fetched + "put Find.") +
          fetched + "get Find.Execute";
-};
-// The arguments that begin so and go on with the five match flags, "1" for a true one.
+}
+// The arguments that begin so and go on with the five match flags.
 Arguments with_flags(Arguments arguments, const std::string& flags) {
   for (const char flag : flags) arguments.emplace_back(flag == '1');
   return arguments;
 }
-// Text, direction and wrap, then the match flags.
-std::string settings(std::string all, const std::string& flags) {
-  all += ";Format=bool 0";
-  const char* const names[] = {"Case", "WholeWord", "Wildcards", "SoundsLike", "AllWordForms"};
-  for (size_t i = 0; i < 5; ++i)
-    all += std::string(";Match") + names[i] + (flags[i] == '1' ? "=bool -1" : "=bool 0");
-  return all;
-}
 const std::string forward_a = R"(;Text=bstr "a";Forward=bool -1;Wrap=ui1 1)",
                   back = R"(;Text=bstr "";Forward=bool 0;Wrap=ui1 2)";
-const std::string plain = settings(forward_a, "00000");
-
-_variant_t null_value() {
-  _variant_t value;
-  value.ChangeType(VT_NULL);
-  return value;
-}
+const std::string none = "00000";
 
 const std::string from_top = " | call Chosen.HomeKey(i2 6)";
 const std::pair<const std::string, Answer> chosen = {"ActiveWindow.Selection", {.object = "Chosen"}},
@@ -147,11 +169,7 @@ const std::string selected = "get Selection.Find | ";
 
 // Between them the rows with flags tell each flag from every other.
 Row searching(const std::string& flags) {
-  return {L"Search",
-          with_flags({L"", 2, false, false}, flags),
-          "ui1 1",
-          searched("", settings(back, flags)),
-          {chosen}};
+  return {L"Search", with_flags({L"", 2, false, false}, flags), "ui1 1", searched("", back, flags), {chosen}};
 }
 Row replacing(const std::string& flags) {
   return {L"Replace", with_flags({L"a", L"b", 1, true, true}, flags), "ui1 1",
@@ -159,15 +177,15 @@ Row replacing(const std::string& flags) {
 }
 
 const Row search[] = {
-    {L"Search", {L"a"}, "ui1 1", searched("", plain), {chosen}},
-    {L"Search", {L"a", 1, true, true}, "ui1 1", searched(from_top, plain), {chosen}},
+    {L"Search", {L"a"}, "ui1 1", searched("", forward_a, none), {chosen}},
+    {L"Search", {L"a", 1, true, true}, "ui1 1", searched(from_top, forward_a, none), {chosen}},
     searching("10000"),
     searching("01000"),
     searching("00100"),
     searching("00010"),
     searching("00001"),
-    {L"Search", {L"a"}, "ui1 0", searched("", plain), {chosen, miss}},
-    {L"Search", {L"a"}, "ui1 0", searched("", plain), {chosen, null}},
+    {L"Search", {L"a"}, "ui1 0", searched("", forward_a, none), {chosen, miss}},
+    {L"Search", {L"a"}, "ui1 0", searched("", forward_a, none), {chosen, null}},
     {L"Replace", {L"a", L"b"}, "ui1 1", selected + one},
     {L"Replace", {L"a", L"b", 1, true, false}, "ui1 1", selected + one},
     {L"Replace", {L"a", L"b", 0, false, true, true, false, true, false, true, 2}, "ui1 1", selected + all},

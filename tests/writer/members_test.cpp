@@ -42,7 +42,19 @@ const std::string fonts = opened("a") + opened("b") +
 
 const std::string read = "get Document.GetText | get GetText.GetString", all = "bstr \"all of it\"";
 const char no_reflection[] = R"(Application.createInstance(bstr "com.sun.star.reflection.CoreReflection"))";
+// Nothing where a document or a descriptor is due is a failure, and what is no object always.
+const std::string unset = "Object variable or With block variable not set", required = "Object required",
+                  no_object = "a.c | Search " + required, no_descriptor = "a.c | Search " + unset,
+                  made = "Document.createSearchDescriptor", load = "Desktop.loadComponentFromURL";
+
 const Row own[] = {
+    {L"SetVisible", {false}, "ui1 1", ""},
+    {L"SetActive", {true}, "ui1 1", ""},
+    {L"SetScreenUpdating", {false}, "ui1 1", ""},
+    {L"Search", {L"a.c"}, "ui1 0", searched("0"), {{found, Answer{}}}, no_object, search_fails},
+    {L"Search", {L"a.c"}, "ui1 0", "get " + made, {{made, {nothing}}}, no_descriptor, search_fails},
+    {L"OpenDoc", {L"a"}, "ui1 0", loaded("a"), {{load, {nothing}}}, "OpenDoc " + unset},
+    {L"CreateDoc", {L"a"}, "ui1 0", loaded("a"), {{load, {7}}}, "Create Doc " + required},
     {L"SetHeaderFooter", {L"a", L"b", 0, 0, 2}, "ui1 1", fonts, {}, "", "Set Header/Footer %"},
     {L"Start", {}, "ui1 1", started, {}, "", twice},
     {L"Start", {false}, "ui1 1", started, {{no_reflection, {nothing}}}, "", twice},
@@ -75,15 +87,6 @@ TEST_F(State, AClosedDocumentStaysActive) {
   check_kept();
 }
 
-TEST_F(State, TheWindowsMembersDoNothing) {
-  for (const bool ready : {false, true}) {
-    if (ready) make_ready();
-    for (const auto* member : {L"SetVisible", L"SetActive", L"SetScreenUpdating"})
-      for (const bool flag : {false, true}) expect(member, {flag}, "ui1 1");
-    EXPECT_EQ(log(), "");
-  }
-}
-
 TEST_F(State, AFailedPlacementKeepsWhatWasStarted) {
   office_.refused["Application.WindowState"] = DISP_E_UNKNOWNNAME;
   const std::string text = "Object doesn't support this property or method";
@@ -91,23 +94,6 @@ TEST_F(State, AFailedPlacementKeepsWhatWasStarted) {
   EXPECT_EQ(log(), started);
   expect(L"CreateDoc", {L"a"}, "ui1 1");
   EXPECT_EQ(office_.live, 4);
-}
-
-// Nothing where a document or a descriptor is due is a failure, and what is no object always.
-TEST_F(State, AnswersThatAreNoObjectsFail) {
-  const std::string unset = "Object variable or With block variable not set";
-  for (const auto& [path, answer, member, boxes] :
-       {std::tuple{"Document.findFirst", _variant_t(), L"Search", std::string("a | Search Object required")},
-        {"Document.createSearchDescriptor", nothing, L"Search", "a | Search " + unset},
-        {"Desktop.loadComponentFromURL", nothing, L"OpenDoc", "OpenDoc " + unset},
-        {"Desktop.loadComponentFromURL", 7, L"CreateDoc", "Create Doc Object required"}}) {
-    const auto usual = office_.answers;
-    make_ready();
-    office_.answers[path] = {answer};
-    expect(member, {L"a"}, "ui1 0", boxes);
-    office_.answers = usual;
-    expect(L"ReadText", {0, 0}, all);
-  }
 }
 
 TEST_F(State, WhatACallPutsIntoItsReferencesIsReleased) {

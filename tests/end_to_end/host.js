@@ -1,5 +1,5 @@
-// Drives ZORBWord and writes what each member answered. Every host must write the same lines.
-var path = WScript.Arguments(0) + "\\js.docx";
+// Drives ZORBWord and writes what each member answered.
+var path = WScript.Arguments(0) + "\\host.docx";
 var special = WScript.Arguments(1);
 var word = new ActiveXObject("ZORBOffice.ZORBWord");
 var calls = ["Start()", "CreateDoc()", "SendText('One two ' + special + ' three')", "CursorLeft(5, 1, 1)", "SelectionText()",
@@ -20,4 +20,4 @@ for (var i = 0; i < calls.length; ++i) {
   answer = String(answer).replace("\r", "\\r").replace(special, "<special>");
   WScript.Echo(calls[i].replace(/\(.*/, "") + ": " + answer);
 }
-WScript.Echo("hosts.js: done");
+WScript.Echo("host.js: done");
