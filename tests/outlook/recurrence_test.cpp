@@ -56,6 +56,7 @@ TEST_F(Recurrence, IsTakenAndClearedByTheAppointment) {
     office_.fail_at = held == "Pattern" ? 1 : 0;
     call(L"GetRecurrencePattern");
     log();
+    office_.fail_at = 0;
     set("Interval", "1", "put " + held + ".Interval=i4 1", "");
   }
 }
