@@ -26,6 +26,7 @@ follow() {
     if [[ $line =~ ^[0-9]+\ of\ [0-9]+ ]]; then
       far=$line
     else
+      far=  # What was counted is over.
       end_line
       printf '%s\n' "$line"
     fi
