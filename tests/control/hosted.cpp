@@ -54,19 +54,14 @@ static void pump() {
 
 void windows_forms(StrictContainer& container, IUnknown* control) {
   const auto object = as<IOleObject>(control);
-  DWORD status = 0, cookie = 0;
-  object->GetMiscStatus(DVASPECT_CONTENT, &status);
+  DWORD cookie = 0;
   object->SetClientSite(&container);
   const auto persistence = as<IPersistStreamInit>(control);
   const auto stream = stream_of("");
   persistence->Save(stream.Get(), FALSE);
   stream->Seek({}, STREAM_SEEK_SET, nullptr);
   persistence->Load(stream.Get());
-  SIZEL extent = {};
-  object->GetExtent(DVASPECT_CONTENT, &extent);
-  resize(control, extent.cx + 26, extent.cy);
-  CONTROLINFO information = {sizeof information, nullptr, 0, 0};
-  as<IOleControl>(control)->GetControlInfo(&information);
+  resize(control, 767, 741);
   ComPtr<IConnectionPoint> point;
   as<IConnectionPointContainer>(control)->FindConnectionPoint(IID_IPropertyNotifySink, &point);
   point->Advise(static_cast<IAdviseSink*>(&container), &cookie);
@@ -108,9 +103,7 @@ void visual_basic(StrictContainer& container, IUnknown* control) {
   resize(control, 2000, 1000);
   DWORD connection = 0;
   object->Advise(sink, &connection);
-  as<IOleControl>(control)->FreezeEvents(TRUE);
   verb(container, control, OLEIVERB_INPLACEACTIVATE);
-  as<IOleControl>(control)->FreezeEvents(FALSE);
   if (container.window()) SendMessageW(container.window(), WM_LBUTTONDOWN, 0, 0);
   pump();
   verb(container, control, OLEIVERB_HIDE);
@@ -136,7 +129,7 @@ HWND hold_by_atl(IUnknown* control, HWND form, const RECT& position) {
   const auto attach = reinterpret_cast<HRESULT(WINAPI*)(IUnknown*, HWND, IUnknown**)>(
       GetProcAddress(library, "AtlAxAttachControl"));
   static const BOOL started = start && start();
-  outside::require(started && attach, "ATL");
+  require(started && attach, "ATL");
   const HWND holder = CreateWindowW(L"AtlAxWin100", L"", WS_CHILD | WS_VISIBLE, position.left, position.top,
                                     position.right - position.left, position.bottom - position.top, form,
                                     nullptr, nullptr, nullptr);

@@ -2,12 +2,12 @@
 #pragma once
 
 #include <map>
+#include <vector>
 
 #include "outside/library.h"
 #include "support/strict_container.h"
 
-using Microsoft::WRL::ComPtr;
-using outside::classes;
+using namespace outside;
 
 template <class Interface>
 ComPtr<Interface> as(IUnknown* object) {
@@ -15,6 +15,10 @@ ComPtr<Interface> as(IUnknown* object) {
   object->QueryInterface(__uuidof(Interface), &found);
   outside::require(found.Get(), "interface");
   return found;
+}
+template <class Interface, class Known>
+ComPtr<Interface> as(const ComPtr<Known>& object) {
+  return as<Interface>(object.Get());
 }
 
 // A property bag of texts, as a form's text file gives them.

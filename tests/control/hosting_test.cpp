@@ -32,30 +32,6 @@ std::vector<IID> ids_of() {
   return {__uuidof(Interfaces)...};
 }
 
-TEST(Interfaces, are_those_that_containers_ask_for_and_no_promise_of_safety) {
-  const auto known = ids_of<IUnknown, IDispatch, IOleObject, IOleControl, IOleWindow, IOleInPlaceObject,
-                            IOleInPlaceActiveObject, IViewObject, IViewObject2, IViewObjectEx, IPersist,
-                            IPersistStream, IPersistStreamInit, IPersistStorage, IPersistPropertyBag,
-                            IDataObject, IProvideClassInfo, IProvideClassInfo2, IConnectionPointContainer,
-                            ISpecifyPropertyPages, IQuickActivate, ISupportErrorInfo>();
-  for (const auto& ids : classes) {
-    const auto control = outside::create(ids);
-    const GUID own = outside::guid(ids.interface_id);
-    ComPtr<IUnknown> identity, face, back;
-    control.As(&identity);
-    for (const IID& id : known) {
-      ASSERT_EQ(control->QueryInterface(id, &face), S_OK) << &id - known.data();
-      ASSERT_EQ(face.As(&back), S_OK);
-      EXPECT_EQ(back, identity) << &id - known.data();
-      EXPECT_EQ(face->QueryInterface(own, &back), S_OK) << &id - known.data();
-      EXPECT_EQ(as<IUnknown>(back.Get()), identity) << &id - known.data();
-    }
-    EXPECT_EQ(as<ISupportErrorInfo>(control.Get())->InterfaceSupportsErrorInfo(own), S_OK);
-    for (const IID& id : {IID_IObjectSafety, IID_IObjectWithSite, IID_IOleInPlaceObjectWindowless, GUID_NULL})
-      EXPECT_EQ(control->QueryInterface(id, &face), E_NOINTERFACE);
-  }
-}
-
 // Counts its own references and hands every question on to the control it is made of.
 struct Outer final : IUnknown {
   HRESULT WINAPI QueryInterface(REFIID id, void** object) override {
@@ -67,25 +43,40 @@ struct Outer final : IUnknown {
   ComPtr<IUnknown> inner;
 };
 
-TEST(Aggregation, makes_the_control_a_part_of_another_object) {
+// Also where the control is a part of another object.
+TEST(Interfaces, are_those_that_containers_ask_for_and_no_promise_of_safety) {
+  const auto known = ids_of<IUnknown, IDispatch, IOleObject, IOleControl, IOleWindow, IOleInPlaceObject,
+                            IOleInPlaceActiveObject, IViewObject, IViewObject2, IViewObjectEx, IPersist,
+                            IPersistStream, IPersistStreamInit, IPersistStorage, IPersistPropertyBag,
+                            IDataObject, IProvideClassInfo, IProvideClassInfo2, IConnectionPointContainer,
+                            ISpecifyPropertyPages, IQuickActivate, ISupportErrorInfo>();
   for (const auto& ids : classes) {
+    const GUID own = guid(ids.interface_id);
     Outer outer;
-    ASSERT_EQ(outside::factory(ids)->CreateInstance(&outer, IID_IUnknown, &outer.inner), S_OK);
+    ASSERT_EQ(factory(ids)->CreateInstance(&outer, IID_IUnknown, &outer.inner), S_OK);
     EXPECT_EQ(outer.references, 1u);
-    {
-      const auto object = as<IOleObject>(&outer);
+    for (const auto& identity : {as<IUnknown>(create(ids).Get()), as<IUnknown>(&outer)}) {
+      ComPtr<IUnknown> face, back;
+      for (const IID& id : known) {
+        ASSERT_EQ(identity->QueryInterface(id, &face), S_OK) << &id - known.data();
+        EXPECT_EQ(as<IUnknown>(face), identity) << &id - known.data();
+        ASSERT_EQ(face->QueryInterface(own, &back), S_OK) << &id - known.data();
+        EXPECT_EQ(as<IUnknown>(back), identity) << &id - known.data();
+      }
+      EXPECT_EQ(as<ISupportErrorInfo>(identity)->InterfaceSupportsErrorInfo(own), S_OK);
+      for (const IID& id :
+           {IID_IObjectSafety, IID_IObjectWithSite, IID_IOleInPlaceObjectWindowless, GUID_NULL})
+        EXPECT_EQ(identity->QueryInterface(id, &face), E_NOINTERFACE);
       ComPtr<IConnectionPoint> point;
-      as<IConnectionPointContainer>(&outer)->FindConnectionPoint(IID_IPropertyNotifySink, &point);
-      EXPECT_EQ(outer.references, 3u);
-      EXPECT_EQ(as<IUnknown>(object.Get()).Get(), &outer);
-      EXPECT_EQ(as<IUnknown>(as<IDispatch>(&outer).Get()).Get(), &outer);
+      as<IConnectionPointContainer>(identity)->FindConnectionPoint(IID_IPropertyNotifySink, &point);
+      EXPECT_EQ(outer.references, identity.Get() == &outer ? 4u : 2u);
       StrictContainer container;
-      windows_forms(container, &outer);
+      windows_forms(container, identity.Get());
       EXPECT_EQ(container.held, 0);
     }
     EXPECT_EQ(outer.references, 1u);
     EXPECT_EQ(outer.inner.Reset(), 0u);
-    EXPECT_EQ(outside::call("DllCanUnloadNow"), S_OK);
+    EXPECT_EQ(call("DllCanUnloadNow"), S_OK);
   }
 }
 
@@ -110,8 +101,8 @@ TEST(Verbs, do_what_they_say_with_and_without_a_container) {
   for (const auto& [verb, sited, alone, log] : rows) {
     SCOPED_TRACE(verb);
     StrictContainer container;
-    const auto control = outside::create(classes[1]);
-    const auto object = as<IOleObject>(control.Get());
+    const auto control = create(classes[1]);
+    const auto object = as<IOleObject>(control);
     EXPECT_EQ(object->DoVerb(verb, nullptr, nullptr, 0, nullptr, nullptr), alone);
     ASSERT_EQ(object->SetClientSite(&container), S_OK);
     EXPECT_EQ(container.take_log(), "Ambient Ambient");
@@ -123,7 +114,7 @@ TEST(Verbs, do_what_they_say_with_and_without_a_container) {
     GetClientRect(window, &client);
     EXPECT_EQ(client.right, window ? 28 : 0);
     EXPECT_EQ(window && GetFocus() == window, log == used);
-    EXPECT_EQ(as<IOleInPlaceObject>(control.Get())->InPlaceDeactivate(), S_OK);
+    EXPECT_EQ(as<IOleInPlaceObject>(control)->InPlaceDeactivate(), S_OK);
     const std::string left = "Document.ClearActiveObject Frame.ClearActiveObject OnUIDeactivate NoFocus ";
     EXPECT_EQ(container.take_log(), log.empty() ? "" : (log == used ? left : "") + "OnInPlaceDeactivate");
     EXPECT_FALSE(container.window());
@@ -132,32 +123,48 @@ TEST(Verbs, do_what_they_say_with_and_without_a_container) {
   }
 }
 
-TEST(Mouse, is_the_designer_s_in_design_and_keys_are_always_the_container_s) {
+TEST(Input, is_the_container_s_in_design_and_keys_always) {
   MSG tab = {nullptr, WM_KEYDOWN, VK_TAB, 0, 0, {}};
+  FORMATETC format = {CF_METAFILEPICT, nullptr, DVASPECT_CONTENT, -1, TYMED_MFPICT};
+  DWORD connection = 0;
   for (const bool user_mode : {false, true}) {
     StrictContainer container;
     container.user_mode = user_mode;
-    const auto control = outside::create(classes[2]);
-    const auto active = as<IOleInPlaceActiveObject>(control.Get());
+    const auto control = create(classes[2]);
+    const auto active = as<IOleInPlaceActiveObject>(control);
     EXPECT_EQ(active->TranslateAccelerator(&tab), S_FALSE);
-    const auto object = as<IOleObject>(control.Get());
+    const auto object = as<IOleObject>(control);
     object->SetClientSite(&container);
     object->DoVerb(OLEIVERB_SHOW, nullptr, &container, 0, container.form, nullptr);
-    container.take_log();
-    SendMessageW(container.window(), WM_LBUTTONDOWN, 0, 0);
-    EXPECT_EQ(container.take_log().starts_with("OnUIActivate"), user_mode);
     EXPECT_EQ(active->TranslateAccelerator(&tab), S_OK) << "the container's answer";
+    for (const bool first : {true, false}) {
+      container.take_log();
+      SetFocus(container.form);
+      SendMessageW(container.window(), WM_LBUTTONDOWN, 0, 0);
+      EXPECT_EQ(container.take_log().find("OnUIActivate") != std::string::npos, user_mode && first);
+      EXPECT_EQ(GetFocus() == container.window(), user_mode);
+    }
+    // At the end it saves if it is asked to, and sends data to whoever asked for it then.
+    resize(control.Get(), 3000, 3000);
+    EXPECT_EQ(
+        as<IDataObject>(control)->DAdvise(&format, ADVF_DATAONSTOP | ADVF_NODATA, &container, &connection),
+        S_OK);
+    container.take_log();
+    object->Close(user_mode ? OLECLOSE_SAVEIFDIRTY : OLECLOSE_NOSAVE);
+    EXPECT_TRUE(
+        container.log.ends_with(user_mode ? "SaveObject OnDataChange" : "OnInPlaceDeactivate OnDataChange"))
+        << container.log;
     object->SetClientSite(nullptr);
   }
 }
 
 TEST(Extent, is_kept_and_refused_where_nobody_could_see_or_draw_it) {
   StrictContainer container;
-  const auto control = outside::create(classes[0]);
+  const auto control = create(classes[0]);
   FORMATETC format = {CF_METAFILEPICT, nullptr, DVASPECT_CONTENT, -1, TYMED_MFPICT};
   DWORD connection = 0;
-  as<IViewObject>(control.Get())->SetAdvise(DVASPECT_CONTENT, 0, &container);
-  EXPECT_EQ(as<IDataObject>(control.Get())->DAdvise(&format, ADVF_NODATA, &container, &connection), S_OK);
+  as<IViewObject>(control)->SetAdvise(DVASPECT_CONTENT, 0, &container);
+  EXPECT_EQ(as<IDataObject>(control)->DAdvise(&format, ADVF_NODATA, &container, &connection), S_OK);
   const struct {
     SIZEL wanted;
     HRESULT status;
@@ -172,7 +179,7 @@ TEST(Extent, is_kept_and_refused_where_nobody_could_see_or_draw_it) {
   for (const auto& [wanted, status, kept, log] : rows) {
     EXPECT_EQ(resize(control.Get(), wanted.cx, wanted.cy), status) << wanted.cx;
     SIZEL extent = {};
-    EXPECT_EQ(as<IViewObject2>(control.Get())->GetExtent(DVASPECT_CONTENT, 0, nullptr, &extent), S_OK);
+    EXPECT_EQ(as<IViewObject2>(control)->GetExtent(DVASPECT_CONTENT, 0, nullptr, &extent), S_OK);
     EXPECT_EQ(extent.cx, kept);
     EXPECT_EQ(container.take_log(), log) << wanted.cx;
     EXPECT_TRUE(is_usable(control.Get())) << wanted.cx;
@@ -181,16 +188,16 @@ TEST(Extent, is_kept_and_refused_where_nobody_could_see_or_draw_it) {
 
 TEST(Class, tells_its_events_its_pages_and_its_status) {
   for (const auto& ids : classes) {
-    const auto control = outside::create(ids);
-    const auto information = as<IProvideClassInfo2>(control.Get());
-    const auto object = as<IOleObject>(control.Get());
+    const auto control = create(ids);
+    const auto information = as<IProvideClassInfo2>(control);
+    const auto object = as<IOleObject>(control);
     ComPtr<ITypeInfo> type;
     ASSERT_EQ(information->GetClassInfo(&type), S_OK);
     BSTR name = nullptr;
     type->GetDocumentation(MEMBERID_NIL, &name, nullptr, nullptr, nullptr);
-    EXPECT_EQ(outside::take(name), ids.name);
+    EXPECT_EQ(take(name), ids.name);
     CAUUID pages = {7, nullptr};
-    EXPECT_EQ(as<ISpecifyPropertyPages>(control.Get())->GetPages(&pages), S_OK);
+    EXPECT_EQ(as<ISpecifyPropertyPages>(control)->GetPages(&pages), S_OK);
     EXPECT_EQ(pages.cElems, 0u);
     DWORD status = 0;
     EXPECT_EQ(object->GetMiscStatus(DVASPECT_CONTENT, &status), S_OK);
@@ -201,9 +208,9 @@ TEST(Class, tells_its_events_its_pages_and_its_status) {
     CoTaskMemFree(type_name);
     GUID events = {};
     EXPECT_EQ(information->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &events), S_OK);
-    EXPECT_EQ(events, outside::guid(ids.events_id));
+    EXPECT_EQ(events, guid(ids.events_id));
     ComPtr<IConnectionPoint> point;
-    ASSERT_EQ(as<IConnectionPointContainer>(control.Get())->FindConnectionPoint(events, &point), S_OK);
+    ASSERT_EQ(as<IConnectionPointContainer>(control)->FindConnectionPoint(events, &point), S_OK);
     StrictContainer container;
     DWORD first = 0, second = 0;
     EXPECT_EQ(point->Advise(static_cast<IAdviseSink*>(&container), &first), S_OK) << "it knows dispatch only";
@@ -276,7 +283,7 @@ void at_every_call(const Round& round) {
     container.forget_active_object();
     EXPECT_EQ(container.held, 0) << container.log;
     EXPECT_FALSE(container.window());
-    EXPECT_EQ(outside::call("DllCanUnloadNow"), S_OK);
+    EXPECT_EQ(call("DllCanUnloadNow"), S_OK);
   }
   EXPECT_GT(special, 10);
 }
@@ -302,7 +309,7 @@ TEST(Containers, may_fail_any_call_or_do_the_worst_during_it) {
     for (const auto& way : ways) {
       SCOPED_TRACE(way.name);
       at_every_call([&](StrictContainer& container) {
-        const auto control = outside::create(classes[0]);
+        const auto control = create(classes[0]);
         container.failure = way.failure;
         if (way.worst) container.interruption = [&] { way.worst(container, control.Get()); };
         host(container, control.Get());
@@ -321,7 +328,7 @@ TEST(Containers, may_fail_any_call_or_do_the_worst_during_it) {
 
 TEST(Containers, may_release_the_control_during_any_call) {
   at_every_call([](StrictContainer& container) {
-    IOleObject* object = as<IOleObject>(outside::create(classes[0]).Get()).Detach();
+    IOleObject* object = as<IOleObject>(create(classes[0]).Get()).Detach();
     container.interruption = [&] { std::exchange(object, nullptr)->Release(); };
     object->SetClientSite(&container);
     for (const LONG verb : {OLEIVERB_UIACTIVATE, OLEIVERB_HIDE, OLEIVERB_SHOW})

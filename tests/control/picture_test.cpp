@@ -1,109 +1,77 @@
-// The picture box: the same picture in a window, in any device context, in metafiles.
-#include <set>
-
+// The picture box: the same picture in a window, in any device context, in metafiles; and what the view says
+// of it.
 #include "pictures.h"
 
 namespace {
 
 constexpr COLORREF background = RGB(10, 200, 30);
 
-DWORD as_pixel(COLORREF color) { return RGB(GetBValue(color), GetGValue(color), GetRValue(color)); }
-
-void play_enhanced_metafile(IUnknown* control, HDC dc) {
-  STGMEDIUM taken = data(control, CF_ENHMETAFILE, TYMED_ENHMF);
-  const RECT bounds = {0, 0, side, side};
-  PlayEnhMetaFile(dc, taken.hEnhMetaFile, &bounds);
-  ReleaseStgMedium(&taken);
+Pixels picture_of(IUnknown* control) {
+  return drawn([&](HDC dc) { EXPECT_EQ(draw(control, dc, {0, 0, side, side}), S_OK); });
 }
 
 TEST(Picture, is_the_class_s_bitmap_in_a_sunken_box_on_the_container_s_colour) {
-  std::set<Pixels> pictures;
+  constexpr int dark[] = {COLOR_BTNSHADOW, COLOR_3DDKSHADOW}, light[] = {COLOR_BTNHIGHLIGHT, COLOR_3DLIGHT};
   for (const auto& ids : classes) {
     StrictContainer container;
+    const auto control = create(ids);
+    as<IOleObject>(control)->SetClientSite(&container);
+    const auto on_grey = picture_of(control.Get());
     container.background = background;
-    const auto control = outside::create(ids);
-    as<IOleObject>(control.Get())->SetClientSite(&container);
-    const auto picture = drawn([&](HDC dc) { EXPECT_EQ(draw(control.Get(), dc, {0, 0, side, side}), S_OK); });
-    const auto expected = drawn([&](HDC dc) {
-      const auto fill = [&](RECT area, COLORREF color) {
-        const HBRUSH brush = CreateSolidBrush(color);
-        FillRect(dc, &area, brush);
-        DeleteObject(brush);
-      };
-      RECT area = {0, 0, side, side};
-      for (const auto& [dark, light] :
-           {std::pair{COLOR_BTNSHADOW, COLOR_BTNHIGHLIGHT}, {COLOR_3DDKSHADOW, COLOR_3DLIGHT}}) {
-        fill(area, GetSysColor(light));
-        fill({area.left, area.top, area.right, area.top + 1}, GetSysColor(dark));
-        fill({area.left, area.top, area.left + 1, area.bottom}, GetSysColor(dark));
-        InflateRect(&area, -1, -1);
-      }
-      fill(area, background);
-      const HANDLE bitmap = LoadImageW(outside::library(), MAKEINTRESOURCEW(30000 + (&ids - classes)),
-                                       IMAGE_BITMAP, 0, 0, LR_CREATEDIBSECTION);
-      const HDC source = CreateCompatibleDC(nullptr);
-      const HGDIOBJ earlier = SelectObject(source, bitmap);
-      const COLORREF none = GetPixel(source, 0, 14);
-      for (int y = 0; y < 15; ++y)
-        for (int x = 0; x < 16; ++x)
-          if (GetPixel(source, x, y) != none) SetPixelV(dc, 6 + x, 6 + y, GetPixel(source, x, y));
-      SelectObject(source, earlier);
-      DeleteDC(source);
-      DeleteObject(bitmap);
-    });
-    EXPECT_EQ(picture, expected);
-    EXPECT_EQ(picture[3 * side + 3], as_pixel(background));
-    pictures.insert(picture);
-    as<IOleObject>(control.Get())->SetClientSite(nullptr);
+    EXPECT_EQ(as<IOleControl>(control)->OnAmbientPropertyChange(DISPID_AMBIENT_BACKCOLOR), S_OK);
+    const HDC dc = CreateCompatibleDC(nullptr);
+    const HANDLE bitmap = LoadImageW(library(), MAKEINTRESOURCEW(30000 + (&ids - classes)), IMAGE_BITMAP, 0,
+                                     0, LR_CREATEDIBSECTION);
+    const HGDIOBJ earlier = SelectObject(dc, bitmap);
+    const COLORREF none = GetPixel(dc, 0, 14);
+    const auto expected = [&](int x, int y, COLORREF behind) {
+      const int edge = std::min({x, y, side - 1 - x, side - 1 - y});
+      if (edge < 2) return GetSysColor(x == edge || y == edge ? dark[edge] : light[edge]);
+      const COLORREF dot = GetPixel(dc, x - 6, y - 6);
+      return dot == none || dot == CLR_INVALID ? behind : dot;
+    };
+    const auto picture = picture_of(control.Get());
+    for (int i = 0; i < side * side; ++i) {
+      const int x = i % side, y = i / side;
+      ASSERT_EQ(picture[i], as_pixel(expected(x, y, background))) << ids.name << " " << x << " " << y;
+      ASSERT_EQ(on_grey[i], as_pixel(expected(x, y, GetSysColor(COLOR_BTNFACE)))) << x << " " << y;
+    }
+    SelectObject(dc, earlier);
+    DeleteObject(bitmap);
+    DeleteDC(dc);
+    as<IOleObject>(control)->SetClientSite(nullptr);
   }
-  EXPECT_EQ(pictures.size(), 3u);
 }
 
 TEST(Picture, is_the_same_in_a_window_in_metafiles_and_in_other_units) {
   StrictContainer container;
-  const auto control = outside::create(classes[1]);
-  const auto object = as<IOleObject>(control.Get());
+  const auto control = create(classes[1]);
+  const auto object = as<IOleObject>(control);
   object->SetClientSite(&container);
   object->DoVerb(OLEIVERB_SHOW, nullptr, &container, 0, container.form, nullptr);
   const HWND window = container.window();
-  const auto expected = drawn([&](HDC dc) { draw(control.Get(), dc, {0, 0, side, side}); });
-  const std::pair<const char*, std::function<void(HDC)>> ways[] = {
-      {"index 0", [&](HDC dc) { draw(control.Get(), dc, {0, 0, side, side}, DVASPECT_CONTENT, 0); }},
-      {"window",
-       [&](HDC dc) { SendMessageW(window, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT); }},
-      {"metafile", [&](HDC dc) { play_metafile(control.Get(), dc); }},
-      {"enhanced metafile", [&](HDC dc) { play_enhanced_metafile(control.Get(), dc); }},
-      {"ten units a pixel",
-       [&](HDC dc) {
-         map(dc, {side * 10, side * 10});
-         draw(control.Get(), dc, {0, 0, side * 10, side * 10});
-       }},
-      {"upwards", [&](HDC dc) {
-         map(dc, {side * 10, -side * 10});
-         draw(control.Get(), dc, {0, 0, side * 10, -side * 10});
-       }}};
-  for (const auto& [name, way] : ways) {
-    const auto pixels = drawn(way);
-    size_t different = 0;
-    for (size_t i = 0; i < pixels.size(); ++i) different += pixels[i] != expected[i];
-    EXPECT_EQ(different, 0u) << name;
-  }
+  const auto in_units = [&](HDC dc, LONG width, LONG height) {
+    map(dc, {width, height});
+    draw(control.Get(), dc, {0, 0, width, height});
+  };
+  const std::function<void(HDC)> ways[] = {
+      [&](HDC dc) { draw(control.Get(), dc, {0, 0, side, side}, DVASPECT_CONTENT, 0); },
+      [&](HDC dc) { SendMessageW(window, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT); },
+      [&](HDC dc) { play_metafile(control.Get(), dc); },
+      [&](HDC dc) {
+        STGMEDIUM taken = data(control.Get(), CF_ENHMETAFILE, TYMED_ENHMF);
+        const RECT bounds = {0, 0, side, side};
+        PlayEnhMetaFile(dc, taken.hEnhMetaFile, &bounds);
+        ReleaseStgMedium(&taken);
+      },
+      [&](HDC dc) { in_units(dc, side * 10, side * 10); },
+      [&](HDC dc) { in_units(dc, side * 10, -side * 10); }};
+  for (const auto& way : ways) EXPECT_EQ(drawn(way), picture_of(control.Get())) << &way - ways;
   object->SetClientSite(nullptr);
 }
 
-TEST(Picture, follows_the_container_s_colour_and_is_drawn_where_there_is_little_room) {
-  StrictContainer container;
-  const auto control = outside::create(classes[2]);
-  as<IOleObject>(control.Get())->SetClientSite(&container);
-  const auto colour = [&] {
-    return drawn([&](HDC dc) { draw(control.Get(), dc, {0, 0, side, side}); })[3 * side + 3];
-  };
-  EXPECT_EQ(colour(), as_pixel(GetSysColor(COLOR_BTNFACE)));
-  container.background = background;
-  EXPECT_EQ(as<IOleControl>(control.Get())->OnAmbientPropertyChange(DISPID_AMBIENT_BACKCOLOR), S_OK);
-  EXPECT_EQ(colour(), as_pixel(background));
-  as<IOleObject>(control.Get())->SetClientSite(nullptr);
-  // Nothing outside the bounds, whatever the size.
+TEST(Picture, is_drawn_where_there_is_little_room_and_nowhere_else) {
+  const auto control = create(classes[2]);
   for (const int size : {1, 2, 4, 5, 12}) {
     resize(control.Get(), size * 2540 / 96 + 1, size * 2540 / 96 + 1);
     const auto pixels = drawn([&](HDC dc) { draw(control.Get(), dc, {2, 2, 2 + size, 2 + size}); });
@@ -121,8 +89,8 @@ TEST(Picture, follows_the_container_s_colour_and_is_drawn_where_there_is_little_
 }
 
 TEST(Data, lists_and_gives_the_two_metafiles_only) {
-  const auto control = outside::create(classes[0]);
-  const auto data = as<IDataObject>(control.Get());
+  const auto control = create(classes[0]);
+  const auto data = as<IDataObject>(control);
   ComPtr<IEnumFORMATETC> formats;
   ASSERT_EQ(data->EnumFormatEtc(DATADIR_GET, &formats), S_OK);
   FORMATETC found[3] = {};
@@ -140,6 +108,27 @@ TEST(Data, lists_and_gives_the_two_metafiles_only) {
   EXPECT_EQ(data->GetData(&found[0], &medium), DV_E_FORMATETC);
   found[1].tymed = TYMED_HGLOBAL;
   EXPECT_EQ(data->GetData(&found[1], &medium), DV_E_TYMED);
+}
+
+TEST(View, says_the_same_to_every_question) {
+  const auto control = create(classes[0]);
+  const auto view = as<IViewObjectEx>(control);
+  QACONTAINER container = {};
+  QACONTROL answer = {};
+  container.cbSize = sizeof container;
+  answer.cbSize = sizeof answer;
+  EXPECT_EQ(as<IQuickActivate>(control)->QuickActivate(&container, &answer), S_OK);
+  DWORD status = 0, misc = 0, hit = 0;
+  EXPECT_EQ(view->GetViewStatus(&status), S_OK);
+  EXPECT_EQ(as<IOleObject>(control)->GetMiscStatus(DVASPECT_CONTENT, &misc), S_OK);
+  EXPECT_EQ(std::pair(answer.dwViewStatus, answer.dwMiscStatus), std::pair(status, misc));
+  RECTL area = {};
+  EXPECT_EQ(SUCCEEDED(view->GetRect(DVASPECT_OPAQUE, &area)), (status & VIEWSTATUS_DVASPECTOPAQUE) != 0);
+  const RECT bounds = {0, 0, 10, 10}, beside = {10, 10, 20, 20};
+  EXPECT_EQ(view->QueryHitPoint(DVASPECT_CONTENT, &bounds, {9, 9}, 0, &hit), S_OK);
+  EXPECT_EQ(hit, static_cast<DWORD>(HITRESULT_HIT));
+  EXPECT_EQ(view->QueryHitRect(DVASPECT_CONTENT, &bounds, &beside, 0, &hit), S_OK);
+  EXPECT_EQ(hit, static_cast<DWORD>(HITRESULT_OUTSIDE));
 }
 
 }  // namespace

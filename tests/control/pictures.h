@@ -1,6 +1,7 @@
 // Pictures that a control draws, as pixels.
 #pragma once
 
+#include <algorithm>
 #include <functional>
 #include <vector>
 
@@ -9,19 +10,25 @@
 using Pixels = std::vector<DWORD>;  // 0xRRGGBB, row by row
 inline constexpr int side = 28;
 
-// What `draw` draws into a picture of 28 by 28 pixels.
+inline DWORD as_pixel(COLORREF color) { return RGB(GetBValue(color), GetGValue(color), GetRValue(color)); }
+
+// What `draw` draws into a picture of 28 by 28 pixels, at a saved level of the device context that is not its
+// to restore.
 inline Pixels drawn(const std::function<void(HDC)>& draw) {
   BITMAPINFO format = {};
   format.bmiHeader = {sizeof format.bmiHeader, side, -side, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
   void* bits = nullptr;
   const HDC dc = CreateCompatibleDC(nullptr);
   const HBITMAP bitmap = CreateDIBSection(nullptr, &format, DIB_RGB_COLORS, &bits, nullptr, 0);
-  const HGDIOBJ earlier = SelectObject(dc, bitmap);
+  SaveDC(dc);
+  SelectObject(dc, bitmap);
+  SaveDC(dc);
   draw(dc);
+  EXPECT_EQ(SaveDC(dc), 3);
   GdiFlush();
   Pixels pixels(static_cast<DWORD*>(bits), static_cast<DWORD*>(bits) + side * side);
   for (DWORD& pixel : pixels) pixel &= 0xFFFFFF;
-  SelectObject(dc, earlier);
+  RestoreDC(dc, 1);
   DeleteObject(bitmap);
   DeleteDC(dc);
   return pixels;

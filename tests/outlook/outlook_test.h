@@ -2,7 +2,7 @@
 #pragma once
 
 #include "support/control_test.h"
-#include "support/fake_outlook.h"
+#include "support/fake_offices.h"
 
 // 5 March 2007 at that time as the office application answers dates.
 inline _variant_t march_5(int hour, int minute = 0, int second = 0) {

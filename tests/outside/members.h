@@ -13,7 +13,7 @@ namespace outside {
 struct Member {
   DISPID id;
   const wchar_t* signature;
-  // The message boxes' texts; "" for none; or what reaches the host instead.
+  // The message boxes' texts, each once; "" for none; or what reaches the host instead.
   const char* fresh;
   bool succeeds = false;
   static constexpr const char *raised = "raised: Object required",
@@ -97,12 +97,6 @@ inline constexpr Member outlook_members[] = {
      L"Subject &string, Content &string, UseHTML &flag, AutoSend &flag, Attachment &string) flag",
      "New Email ActiveX component can't create object"
      "New Email Object required"
-     "New Email Object required"
-     "New Email Object variable or With block variable not set"
-     "New Email Object variable or With block variable not set"
-     "New Email Object variable or With block variable not set"
-     "New Email Object variable or With block variable not set"
-     "New Email Object variable or With block variable not set"
      "New Email Object variable or With block variable not set"},
     {0x60030004, L"call OpenItem(EntryType string) flag", "Unknown Entry Type "},
     {0x60030005, L"call InitItems(EntryType string, Condition string) flag", "Unknown Entry Type "},

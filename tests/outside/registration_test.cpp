@@ -1,9 +1,8 @@
 // What registration writes into the machine's classes or the user's, key by key, and that nothing of it
 // stays.
-#include <comcat.h>
-#include <sddl.h>
-
 #include "registry.h"
+
+#include <sddl.h>
 
 namespace outside {
 namespace {
@@ -66,59 +65,57 @@ Keys registered(HKEY among, const Keys& before) {
 
 TEST(Registration, writes_exactly_its_own_keys_and_takes_them_back) {
   struct Step {
-    const wchar_t* options;
+    BOOL install;
+    LPCWSTR scope;               // as DllInstall takes it; null is one of the other two entry points
     bool for_machine, for_user;  // what is registered afterwards
   };
   unregister_all();
-  const Keys machine = registry(), user = registry(HKEY_CURRENT_USER);
-  for (const Step& step : {Step{L"", true, false},
-                           {L"/n /i:user", true, true},
-                           {L"/u", false, true},
-                           {L"/i", true, true},
-                           {L"/u /n /i:USER", true, false},
-                           {L"/u /n /i", false, false},
-                           {L"/n /i:User", false, true},
-                           {L"/u /n /i:user", false, false}}) {
-    EXPECT_EQ(regsvr32(step.options), 0u);
+  const Keys machine = registry(), user = registry(View::all_keys, HKEY_CURRENT_USER);
+  const Keys whole_machine = registry(View::all_keys);
+  for (const Step& step : {Step{TRUE, nullptr, true, false},
+                           {TRUE, L"user", true, true},
+                           {FALSE, nullptr, false, true},
+                           {TRUE, L"", true, true},
+                           {FALSE, L"USER", true, false},
+                           {FALSE, L"", false, false},
+                           {TRUE, L"User", false, true},
+                           {FALSE, L"user", false, false}}) {
+    SCOPED_TRACE(step.scope ? step.scope : L"none");
+    const auto other_entry = step.install ? "DllRegisterServer" : "DllUnregisterServer";
+    EXPECT_EQ(step.scope ? call("DllInstall", step.install, step.scope) : call(other_entry), S_OK);
     EXPECT_EQ(difference(step.for_machine ? registered(HKEY_LOCAL_MACHINE, machine) : machine, registry()),
-              L"")
-        << step.options;
-    EXPECT_EQ(
-        difference(step.for_user ? registered(HKEY_CURRENT_USER, user) : user, registry(HKEY_CURRENT_USER)),
-        L"")
-        << step.options;
+              L"");
+    EXPECT_EQ(difference(step.for_user ? registered(HKEY_CURRENT_USER, user) : user,
+                         registry(View::all_keys, HKEY_CURRENT_USER)),
+              L"");
   }
+  ASSERT_EQ(regsvr32(L""), 0u);
   for (const LPCWSTR unknown : {L"users", L"use", L" user", L"machine"})
     for (const BOOL install : {TRUE, FALSE})
       EXPECT_EQ(call("DllInstall", install, unknown), E_INVALIDARG) << unknown;
-  EXPECT_EQ(difference(machine, registry()), L"");
-  EXPECT_EQ(difference(user, registry(HKEY_CURRENT_USER)), L"");
+  EXPECT_EQ(difference(registered(HKEY_LOCAL_MACHINE, whole_machine), registry(View::all_keys)), L"");
+  unregister_all();
+  EXPECT_EQ(difference(whole_machine, registry(View::all_keys)), L"");
 }
 
-// A key that may only be read, as all of the machine's are for everybody but administrators.
-class ReadOnlyKey {
- public:
-  explicit ReadOnlyKey(const std::wstring& path) : path_(path) {
-    RegCreateKeyExW(HKEY_LOCAL_MACHINE, path.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key_, &made_);
-    allow(L"D:P(A;;KR;;;WD)");
-  }
-  ~ReadOnlyKey() {
-    allow(L"D:P(A;;KA;;;WD)");
-    RegCloseKey(key_);
-    if (made_ == REG_CREATED_NEW_KEY) RegDeleteKeyW(HKEY_LOCAL_MACHINE, path_.c_str());
-  }
-
- private:
-  void allow(const wchar_t* everyone) {
+// Registers while a key may only be read, as all of the machine's may for everybody but administrators.
+HRESULT register_against(const std::wstring& path) {
+  HKEY key = nullptr;
+  DWORD made = 0;
+  RegCreateKeyExW(HKEY_LOCAL_MACHINE, path.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS, nullptr, &key, &made);
+  const auto allow = [&](const wchar_t* everyone) {
     PSECURITY_DESCRIPTOR descriptor = nullptr;
     ConvertStringSecurityDescriptorToSecurityDescriptorW(everyone, SDDL_REVISION_1, &descriptor, nullptr);
-    RegSetKeySecurity(key_, DACL_SECURITY_INFORMATION, descriptor);
+    RegSetKeySecurity(key, DACL_SECURITY_INFORMATION, descriptor);
     LocalFree(descriptor);
-  }
-  const std::wstring path_;
-  HKEY key_ = nullptr;
-  DWORD made_ = 0;
-};
+  };
+  allow(L"D:P(A;;KR;;;WD)");
+  const HRESULT status = call("DllRegisterServer");
+  allow(L"D:P(A;;KA;;;WD)");
+  RegCloseKey(key);
+  if (made == REG_CREATED_NEW_KEY) RegDeleteKeyW(HKEY_LOCAL_MACHINE, path.c_str());
+  return status;
+}
 
 TEST(Registration, that_fails_half_way_says_so_and_puts_everything_back) {
   unregister_all();
@@ -126,12 +123,8 @@ TEST(Registration, that_fails_half_way_says_so_and_puts_everything_back) {
   const auto expect_failure = [](std::initializer_list<const wchar_t*> places) {
     const Keys before = registry();
     for (const auto place : places) {
-      const auto path = root + filled(place, classes[2]);
-      {
-        const ReadOnlyKey obstacle(path);
-        EXPECT_EQ(call("DllRegisterServer"), E_ACCESSDENIED) << path;
-      }
-      EXPECT_EQ(difference(before, registry()), L"") << path;
+      EXPECT_EQ(register_against(root + filled(place, classes[2])), E_ACCESSDENIED) << place;
+      EXPECT_EQ(difference(before, registry()), L"") << place;
     }
   };
   expect_failure({L"\\CLSID\\%c", L"\\Interface\\%e", L"\\ZORBOffice.%n"});
@@ -147,59 +140,6 @@ TEST(Registration, that_fails_half_way_says_so_and_puts_everything_back) {
   unregister_all();
   EXPECT_EQ(difference(unregistered, registry()), L"");
   DeleteFileW(older.c_str());
-}
-
-// The exact keys above hold no Insertable or Programmable either.
-TEST(Registration, calls_the_classes_controls_and_neither_safe_nor_insertable) {
-  constexpr const wchar_t* safe_for_scripting = L"{7DD95801-9882-11CF-9FA9-00AA006C42C4}";
-  constexpr const wchar_t* safe_for_initialising = L"{7DD95802-9882-11CF-9FA9-00AA006C42C4}";
-  constexpr const wchar_t* insertable = L"{40FC6ED3-2438-11CF-A3DB-080036F12502}";
-  constexpr const wchar_t* control = L"{40FC6ED4-2438-11CF-A3DB-080036F12502}";
-  ComPtr<ICatInformation> categories;
-  ASSERT_EQ(call("DllRegisterServer"), S_OK);
-  ASSERT_EQ(CoCreateInstance(CLSID_StdComponentCategoriesMgr, nullptr, CLSCTX_INPROC_SERVER,
-                             IID_ICatInformation, &categories),
-            S_OK);
-  for (const ClassIds& ids : classes) {
-    for (const auto category : {control, safe_for_scripting, safe_for_initialising, insertable}) {
-      CATID id = guid(category);
-      EXPECT_EQ(categories->IsClassOfCategories(guid(ids.class_id), 1, &id, 0, nullptr),
-                category == control ? S_OK : S_FALSE)
-          << ids.name << category;
-    }
-  }
-  EXPECT_EQ(call("DllUnregisterServer"), S_OK);
-}
-
-std::wstring text(HKEY among, const std::wstring& key) {
-  wchar_t data[MAX_PATH] = {};
-  DWORD size = sizeof data;
-  RegGetValueW(among, (root + L"\\" + key).c_str(), nullptr, RRF_RT_REG_SZ, nullptr, data, &size);
-  return data;
-}
-
-// The way of the platform itself, which under Wine does not look among the user's classes.
-TEST(Registration, for_the_user_leads_a_host_from_the_name_to_an_instance) {
-  unregister_all();
-  ASSERT_EQ(regsvr32(L"/n /i:user"), 0u);
-  for (const ClassIds& ids : classes) {
-    const std::wstring id = text(HKEY_CURRENT_USER, L"ZORBOffice." + std::wstring(ids.name) + L"\\CLSID");
-    const HMODULE server =
-        LoadLibraryW(text(HKEY_CURRENT_USER, L"CLSID\\" + id + L"\\InprocServer32").c_str());
-    const auto address = reinterpret_cast<void*>(GetProcAddress(server, "DllGetClassObject"));
-    ASSERT_TRUE(address) << ids.name;
-    ComPtr<IClassFactory> made;
-    ComPtr<IDispatch> instance;
-    ASSERT_EQ(reinterpret_cast<LPFNGETCLASSOBJECT>(address)(guid(id.c_str()), IID_IClassFactory, &made),
-              S_OK);
-    EXPECT_EQ(made->CreateInstance(nullptr, guid(ids.interface_id), &instance), S_OK);
-    ComPtr<ITypeLib> types;
-    const auto library = text(HKEY_CURRENT_USER, L"CLSID\\" + id + L"\\TypeLib");
-    const auto file = text(HKEY_CURRENT_USER, filled(L"TypeLib\\" + library + L"\\1.0\\409\\%w", ids));
-    EXPECT_EQ(LoadTypeLibEx(file.c_str(), REGKIND_NONE, &types), S_OK) << file;
-    FreeLibrary(server);
-  }
-  unregister_all();
 }
 
 }  // namespace

@@ -1,10 +1,12 @@
 // A control of the built library as a host drives it, alone or over a recording office application.
 #pragma once
 
+#include <algorithm>
 #include <utility>
 
-#include "late_call.h"
+#include "fake_object.h"
 #include "message_boxes.h"
+#include "outside/library.h"
 
 using Arguments = std::vector<_variant_t>;
 
@@ -12,6 +14,30 @@ using Arguments = std::vector<_variant_t>;
 inline std::wstring project_file(const std::wstring& name) {
   const auto path = outside::library_path();
   return path.substr(0, path.rfind(L"\\build\\") + 1) + name;
+}
+
+// Calls `member` of `object` by name and returns its result as the fakes' log shows values, or "raised NUMBER
+// DESCRIPTION" with the failure that reached the host. The name is looked up in `bound_to` where that is
+// given.
+inline std::string late_call(IDispatch* object, const wchar_t* member, Arguments arguments = {},
+                             IDispatch* bound_to = nullptr) {
+  DISPID identifier = DISPID_UNKNOWN;
+  auto* name = const_cast<wchar_t*>(member);
+  (bound_to ? bound_to : object)->GetIDsOfNames(IID_NULL, &name, 1, LOCALE_USER_DEFAULT, &identifier);
+  std::ranges::reverse(arguments);
+  DISPPARAMS parameters = {arguments.data(), nullptr, static_cast<UINT>(arguments.size()), 0};
+  _variant_t result;
+  EXCEPINFO raised = {};
+  const HRESULT called =
+      object->Invoke(identifier, IID_NULL, LOCALE_USER_DEFAULT, DISPATCH_METHOD | DISPATCH_PROPERTYGET,
+                     &parameters, &result, &raised, nullptr);
+  const auto description = utf8(outside::take(raised.bstrDescription));
+  SysFreeString(raised.bstrSource);
+  SysFreeString(raised.bstrHelpFile);
+  if (called == S_OK) return describe(result);
+  char number[16];
+  snprintf(number, sizeof(number), "%08lX", called == DISP_E_EXCEPTION ? raised.scode : called);
+  return std::string("raised ") + number + " " + description;
 }
 
 // The office's log since the last call, steps separated by " | ".

@@ -1,10 +1,14 @@
-// Watches for message boxes of the test process and answers them in the user's place.
+// Answers the message boxes of the test's thread in the user's place.
 #pragma once
 
 #include <windows.h>
 
+#include <algorithm>
 #include <string>
+#include <utility>
 #include <vector>
+
+#include "text.h"
 
 struct SeenBox {
   std::string title, text;
@@ -12,23 +16,40 @@ struct SeenBox {
   HWND owner;
 };
 
-// While one lives, every message box of this process is recorded and its first button pressed. A box is
-// recorded before it is pressed, so whatever a member showed is there as soon as the member has returned.
+// While the one lives, every message box of the thread that made it is recorded and its first button pressed.
 class MessageBoxes {
  public:
-  MessageBoxes();
-  ~MessageBoxes();
+  MessageBoxes() { seen_.clear(); }
+  ~MessageBoxes() { UnhookWindowsHookEx(hook_); }
   MessageBoxes(const MessageBoxes&) = delete;
-  MessageBoxes& operator=(const MessageBoxes&) = delete;
 
   // The boxes that appeared since the last call, oldest first.
-  std::vector<SeenBox> take();
+  std::vector<SeenBox> take() { return std::exchange(seen_, {}); }
 
  private:
-  static DWORD WINAPI watch(void* self);
-  void answer(HWND box);
+  static std::string text_of(HWND window) {
+    std::wstring text(static_cast<size_t>(GetWindowTextLengthW(window)) + 1, L'\0');
+    text.resize(GetWindowTextW(window, text.data(), static_cast<int>(text.size())));
+    return utf8(text);
+  }
+  static LRESULT WINAPI answer(int code, WPARAM first, LPARAM second) {
+    const auto& done = *reinterpret_cast<const CWPRETSTRUCT*>(second);
+    // By then the box has all of its texts.
+    if (code == HC_ACTION && done.message == WM_INITDIALOG) {
+      SeenBox seen{text_of(done.hwnd), {}, {}, GetWindow(done.hwnd, GW_OWNER)};
+      for (HWND label = nullptr; (label = FindWindowExW(done.hwnd, label, L"Static", nullptr));)
+        seen.text += text_of(label);
+      for (HWND button = nullptr; (button = FindWindowExW(done.hwnd, button, L"Button", nullptr));) {
+        seen.buttons.push_back(text_of(button));
+        std::erase(seen.buttons.back(), '&');
+        if (seen.buttons.size() == 1)
+          PostMessageW(done.hwnd, WM_COMMAND, GetDlgCtrlID(button), LPARAM(button));
+      }
+      seen_.push_back(std::move(seen));
+    }
+    return CallNextHookEx(nullptr, code, first, second);
+  }
 
-  SRWLOCK lock_ = SRWLOCK_INIT;
-  std::vector<SeenBox> seen_;
-  HANDLE stop_, thread_;
+  inline static std::vector<SeenBox> seen_;  // hooks get no context
+  const HHOOK hook_ = SetWindowsHookExW(WH_CALLWNDPROCRET, answer, nullptr, GetCurrentThreadId());
 };

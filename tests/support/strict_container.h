@@ -8,21 +8,17 @@
 #include <olectl.h>
 
 #include <functional>
-#include <initializer_list>
 #include <string>
 #include <utility>
-#include <vector>
 
 // An object of the container, which answers for the interfaces it lists.
-template <class... Interfaces>
-struct Counted : Interfaces... {
-  using Face = std::pair<IID, IUnknown*>;
-  Counted(int& held, std::initializer_list<Face> faces) : held_(held), faces_(faces) {}
+template <class First, class... More>
+struct Counted : First, More... {
+  explicit Counted(int& held) : held_(held) {}
 
   HRESULT WINAPI QueryInterface(REFIID id, void** object) override {
-    *object = nullptr;
-    for (const auto& [known, face] : faces_)
-      if (known == id) *object = face;
+    *object = id == IID_IUnknown || id == __uuidof(First) ? static_cast<First*>(this) : nullptr;
+    ((*object = id == __uuidof(More) ? static_cast<More*>(this) : *object), ...);
     return *object ? AddRef(), S_OK : E_NOINTERFACE;
   }
   ULONG WINAPI AddRef() override { return ++held_; }
@@ -30,7 +26,6 @@ struct Counted : Interfaces... {
 
  private:
   int& held_;
-  const std::vector<Face> faces_;
 };
 
 // What happens to the container: the calls by name, and one of them, counted from 1, that is special.
@@ -66,10 +61,7 @@ struct Happenings {
 // The frame, and the document in it, which has the first methods of the frame.
 struct Frame final : Counted<IOleInPlaceFrame> {
   Frame(Happenings& happenings, std::string name)
-      : Counted(happenings.held,
-                {{IID_IUnknown, this}, {IID_IOleInPlaceUIWindow, this}, {IID_IOleInPlaceFrame, this}}),
-        happenings_(happenings),
-        name_(std::move(name)) {}
+      : Counted(happenings.held), happenings_(happenings), name_(std::move(name)) {}
 
   void forget() {
     if (const auto object = std::exchange(active_, nullptr)) object->Release();
@@ -104,14 +96,7 @@ struct Frame final : Counted<IOleInPlaceFrame> {
 struct StrictContainer final
     : Happenings,
       Counted<IOleClientSite, IOleInPlaceSite, IOleControlSite, IDispatch, IAdviseSink, IPropertyNotifySink> {
-  StrictContainer()
-      : Counted(held, {{IID_IUnknown, static_cast<IOleClientSite*>(this)},
-                       {IID_IOleClientSite, static_cast<IOleClientSite*>(this)},
-                       {IID_IOleInPlaceSite, static_cast<IOleInPlaceSite*>(this)},
-                       {IID_IOleControlSite, static_cast<IOleControlSite*>(this)},
-                       {IID_IDispatch, static_cast<IDispatch*>(this)},
-                       {IID_IAdviseSink, static_cast<IAdviseSink*>(this)},
-                       {IID_IPropertyNotifySink, static_cast<IPropertyNotifySink*>(this)}}) {}
+  StrictContainer() : Counted(held) {}
   ~StrictContainer() { DestroyWindow(form); }
 
   // Drops the references on the active object, as a container does that goes away.

@@ -6,6 +6,7 @@
 #include "ZORBOffice/common/member_frame.h"
 #include "ZORBOffice/control/control.h"
 #include "support/fake_object.h"
+#include "support/leaks.h"
 
 namespace zorboffice {
 namespace {
@@ -108,13 +109,6 @@ class Binder : public testing::Test {
   UINT index_ = 0;
 };
 
-int used_blocks() {
-  int count = 0;
-  for (PROCESS_HEAP_ENTRY entry = {}; HeapWalk(GetProcessHeap(), &entry);)
-    count += (entry.wFlags & PROCESS_HEAP_ENTRY_BUSY) != 0;
-  return count;
-}
-
 TEST_F(Binder, ConvertsEachFormAndWritesOnlyChangesBackWithoutALeak) {
   VARIANT array = of_kind(VT_ARRAY | VT_I4, SafeArrayCreateVector(VT_I4, 0, 3));
   const _variant_t empty, object(static_cast<IDispatch*>(probe_)), numbers(array, false);
@@ -147,9 +141,9 @@ TEST_F(Binder, ConvertsEachFormAndWritesOnlyChangesBackWithoutALeak) {
   };
   const Ids orders[] = {{5, 4, 3, 2, 1, 0}, {4, 5, 3, 2, 1, 0}, {2, 5, 0, 4, 1, 3}};
   constexpr int ways = 15, cases = static_cast<int>(std::size(rows)) * ways;
-  int blocks = 0;
+  size_t blocks = 0;
   for (int i = 0; i < 100 * cases && (i <= cases || !HasFailure()); ++i) {
-    if (i == cases) blocks = used_blocks();
+    if (i == cases) blocks = resources_in_use().blocks;
     const auto& row = rows[i / ways % std::size(rows)];
     const int form = i % ways / 3, naming = i % 3;
     const bool typed = form > 2;
@@ -182,7 +176,7 @@ TEST_F(Binder, ConvertsEachFormAndWritesOnlyChangesBackWithoutALeak) {
     EXPECT_EQ(FAILED(refusal) ? index_ : place, UINT(place));
     EXPECT_EQ(describe(variable), form == 0 || FAILED(refusal) ? host : row.after);
   }
-  EXPECT_LT(used_blocks() - blocks, 50);
+  EXPECT_LT(resources_in_use().blocks, blocks + 50);
 }
 
 TEST_F(Binder, OmittedArgumentsGetTheirDefaults) {

@@ -1,7 +1,7 @@
 // ZORBWord of the built library over the recording word processor, as each test of this folder drives it.
 #pragma once
 
-#include "support/fake_word.h"
+#include "support/fake_offices.h"
 #include "support/member_rows.h"
 
 class WordTest : public WordProcessorTest<FakeWord, 0> {

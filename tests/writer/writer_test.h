@@ -1,7 +1,7 @@
 // OpenWriter of the built library over the recording suite, as each test of this folder drives it.
 #pragma once
 
-#include "support/fake_suite.h"
+#include "support/fake_offices.h"
 #include "support/member_rows.h"
 
 // How a document is loaded.

@@ -1,0 +1,93 @@
+// The office applications as recording fakes, creatable under their own program identifiers.
+#pragma once
+
+#include "fake_object.h"
+
+// While one lives, every creation of the class in this apartment gives a new object of the office, called
+// `object`. A creation is the step "create " with `label` and fails as any other step.
+class FakeClass : private IClassFactory {
+ public:
+  FakeClass(FakeOffice& office, const CLSID& class_id, const std::string& label, const std::string& object);
+  ~FakeClass();
+  FakeClass(const FakeClass&) = delete;
+
+ private:
+  HRESULT WINAPI QueryInterface(REFIID iid, void** object) override;
+  ULONG WINAPI AddRef() override { return 1; }
+  ULONG WINAPI Release() override { return 1; }
+  HRESULT WINAPI CreateInstance(IUnknown* outer, REFIID iid, void** object) override;
+  HRESULT WINAPI LockServer(BOOL) override { return S_OK; }
+
+  FakeOffice& office_;
+  std::string label_, object_;
+  DWORD registration_ = 0;
+};
+
+// While one lives, the program identifier names the class. The machine's classes are put back at the end.
+class FakeProgramId {
+ public:
+  FakeProgramId(const std::wstring& program_id, const CLSID& class_id);
+  ~FakeProgramId();
+  FakeProgramId(const FakeProgramId&) = delete;
+
+ private:
+  void name_class(const std::wstring& class_id) const;
+
+  std::wstring program_key_, class_key_, earlier_class_;
+};
+
+// "Word.Application", with as much of the object model behind it as the members use.
+class FakeWord : public FakeOffice {
+ public:
+  FakeWord();
+
+ private:
+  FakeProgramId name_;
+  FakeClass class_;
+};
+
+// The office suite's service manager and the word processor's class Global in this apartment, under no name.
+// The service manager is called "Application", and it and the document "Document" answer the word processor's
+// members too: what the two controls share must leave the same log.
+struct FakeSuiteClasses : FakeOffice {
+  FakeSuiteClasses();
+
+ private:
+  FakeClass manager_, global_;
+};
+
+// The same as "com.sun.star.ServiceManager".
+class FakeSuite final : public FakeSuiteClasses {
+ public:
+  FakeSuite();
+
+ private:
+  FakeProgramId name_;
+};
+
+// A kind of Outlook's items as the object model has it: its numbers as item, as new item and of its folder.
+struct ItemKind {
+  const wchar_t* word;
+  const char* name;   // of the objects that CreateItem makes
+  const char* found;  // of the objects that collections and GetItemFromID answer; its identifier is `word`
+  const char* items;  // of the default folder's collection
+  const char* folder;
+  int item_class, item_type, folder_number;
+};
+inline constexpr ItemKind item_kinds[] = {
+    {L"Appointment", "Appointment", "FoundAppointment", "AppointmentItems", "Calendar", 26, 1, 9},
+    {L"Contact", "Contact", "FoundContact", "ContactItems", "Contacts", 40, 2, 10},
+    {L"Note", "Note", "FoundNote", "NoteItems", "Notes", 44, 5, 12},
+    {L"Task", "Task", "FoundTask", "TaskItems", "Tasks", 48, 3, 13},
+    {L"Email", "Email", "FoundEmail", "EmailItems", "Inbox", 43, 0, 6}};
+
+// "Outlook.Application", with as much of the object model behind it as the members use. A collection's first
+// and every next item is of the folder's kind; "Foreign" is an item of no kind, a distribution list.
+class FakeOutlook final : public FakeOffice {
+ public:
+  FakeOutlook();
+
+ private:
+  FakeProgramId name_;
+  FakeClass class_;
+};
