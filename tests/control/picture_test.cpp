@@ -55,7 +55,9 @@ TEST(Picture, is_the_same_in_a_window_in_metafiles_and_in_other_units) {
     draw(control.Get(), dc, {0, 0, width, height});
   };
   const std::function<void(HDC)> ways[] = {
-      [&](HDC dc) { draw(control.Get(), dc, {0, 0, side, side}, DVASPECT_CONTENT, 0); },
+      [&](HDC dc) {
+        draw(control.Get(), dc, {0, 0, side, side}, DVASPECT_CONTENT, 0);
+      },
       [&](HDC dc) { SendMessageW(window, WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT); },
       [&](HDC dc) { play_metafile(control.Get(), dc); },
       [&](HDC dc) {
