@@ -142,7 +142,7 @@ TEST_F(Binder, ConvertsEachFormAndWritesOnlyChangesBackWithoutALeak) {
   const Ids orders[] = {{5, 4, 3, 2, 1, 0}, {4, 5, 3, 2, 1, 0}, {2, 5, 0, 4, 1, 3}};
   constexpr int ways = 15, cases = static_cast<int>(std::size(rows)) * ways;
   size_t blocks = 0;
-  for (int i = 0; i < 100 * cases && (i <= cases || !HasFailure()); ++i) {
+  for (int i = 0; i < 30 * cases && (i <= cases || !HasFailure()); ++i) {
     if (i == cases) blocks = resources_in_use().blocks;
     const auto& row = rows[i / ways % std::size(rows)];
     const int form = i % ways / 3, naming = i % 3;
@@ -176,7 +176,7 @@ TEST_F(Binder, ConvertsEachFormAndWritesOnlyChangesBackWithoutALeak) {
     EXPECT_EQ(FAILED(refusal) ? index_ : place, UINT(place));
     EXPECT_EQ(describe(variable), form == 0 || FAILED(refusal) ? host : row.after);
   }
-  EXPECT_LT(resources_in_use().blocks, blocks + 50);
+  EXPECT_LT(resources_in_use().blocks, blocks + 15);
 }
 
 TEST_F(Binder, OmittedArgumentsGetTheirDefaults) {
