@@ -1,32 +1,7 @@
 // Dates, times and numbers under the formats that users set.
-#include <array>
-
 #include "outlook_test.h"
 
 namespace {
-
-// What a user has set: date and time separator, short date, time, decimal and thousands mark.
-using UserFormats = std::array<const wchar_t*, 6>;
-
-// While one lives, the user's settings have `formats`. The earlier ones are put back at the end.
-class UserLocale {
- public:
-  explicit UserLocale(const UserFormats& formats) {
-    for (const auto& [type, setting] : types) GetLocaleInfoW(LOCALE_USER_DEFAULT, type, earlier_[type], 80);
-    for (const auto& [type, setting] : types) SetLocaleInfoW(LOCALE_USER_DEFAULT, type, formats[setting]);
-  }
-  ~UserLocale() {
-    for (const auto& [type, setting] : types) SetLocaleInfoW(LOCALE_USER_DEFAULT, type, earlier_[type]);
-  }
-
- private:
-  // A new separator changes the picture too, so the pictures come after the separators. Wine takes marks of
-  // money for marks of numbers.
-  static constexpr std::pair<LCTYPE, size_t> types[] = {
-      {LOCALE_SDATE, 0},    {LOCALE_STIME, 1},     {LOCALE_SSHORTDATE, 2},     {LOCALE_STIMEFORMAT, 3},
-      {LOCALE_SDECIMAL, 4}, {LOCALE_STHOUSAND, 5}, {LOCALE_SMONDECIMALSEP, 4}, {LOCALE_SMONTHOUSANDSEP, 5}};
-  std::map<LCTYPE, wchar_t[80]> earlier_;
-};
 
 struct Country {
   UserFormats formats;

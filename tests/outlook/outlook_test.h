@@ -1,8 +1,35 @@
 // ZORBOutlook of the built library over the recording mail client, as each test of this folder drives it.
 #pragma once
 
+#include <array>
+
 #include "support/control_test.h"
 #include "support/fake_offices.h"
+
+// What a user has set: date and time separator, short date, time, decimal and thousands mark.
+using UserFormats = std::array<const wchar_t*, 6>;
+
+const UserFormats month_first = {L"/", L":", L"M/d/yyyy", L"h:mm:ss tt", L".", L","};
+
+// While one lives, the user's settings have `formats`. The earlier ones are put back at the end.
+class UserLocale {
+ public:
+  explicit UserLocale(const UserFormats& formats) {
+    for (const auto& [type, setting] : types) GetLocaleInfoW(LOCALE_USER_DEFAULT, type, earlier_[type], 80);
+    for (const auto& [type, setting] : types) SetLocaleInfoW(LOCALE_USER_DEFAULT, type, formats[setting]);
+  }
+  ~UserLocale() {
+    for (const auto& [type, setting] : types) SetLocaleInfoW(LOCALE_USER_DEFAULT, type, earlier_[type]);
+  }
+
+ private:
+  // A new separator changes the picture too, so the pictures come after the separators. Wine takes marks of
+  // money for marks of numbers.
+  static constexpr std::pair<LCTYPE, size_t> types[] = {
+      {LOCALE_SDATE, 0},    {LOCALE_STIME, 1},     {LOCALE_SSHORTDATE, 2},     {LOCALE_STIMEFORMAT, 3},
+      {LOCALE_SDECIMAL, 4}, {LOCALE_STHOUSAND, 5}, {LOCALE_SMONDECIMALSEP, 4}, {LOCALE_SMONTHOUSANDSEP, 5}};
+  std::map<LCTYPE, wchar_t[80]> earlier_;
+};
 
 // 5 March 2007 at that time as the office application answers dates.
 inline _variant_t march_5(int hour, int minute = 0, int second = 0) {
@@ -87,6 +114,7 @@ class OutlookTest : public ControlTest<FakeOutlook, 1> {
   }
 
   inline static OutlookTest* running_;
+  const UserLocale locale_{month_first};
   const HHOOK hook_;
 };
 
