@@ -67,6 +67,8 @@ void windows_forms(StrictContainer& container, IUnknown* control) {
   point->Advise(static_cast<IAdviseSink*>(&container), &cookie);
   verb(container, control, OLEIVERB_HIDE);
   verb(container, control, OLEIVERB_INPLACEACTIVATE);
+  ComPtr<IOleClientSite> site;
+  object->GetClientSite(&site);
   const auto in_place = as<IOleInPlaceObject>(control);
   in_place->SetObjectRects(&container.position, &container.position);
   verb(container, control, OLEIVERB_SHOW);
@@ -121,19 +123,4 @@ void visual_basic(StrictContainer& container, IUnknown* control) {
   events->Unadvise(taken.dwEventCookie);
   properties->Unadvise(taken.dwPropNotifyCookie);
   object->SetClientSite(nullptr);
-}
-
-HWND hold_by_atl(IUnknown* control, HWND form, const RECT& position) {
-  static const HMODULE library = LoadLibraryW(L"atl100.dll");
-  const auto start = reinterpret_cast<BOOL(WINAPI*)()>(GetProcAddress(library, "AtlAxWinInit"));
-  const auto attach = reinterpret_cast<HRESULT(WINAPI*)(IUnknown*, HWND, IUnknown**)>(
-      GetProcAddress(library, "AtlAxAttachControl"));
-  static const BOOL started = start && start();
-  require(started && attach, "ATL");
-  const HWND holder = CreateWindowW(L"AtlAxWin100", L"", WS_CHILD | WS_VISIBLE, position.left, position.top,
-                                    position.right - position.left, position.bottom - position.top, form,
-                                    nullptr, nullptr, nullptr);
-  ComPtr<IUnknown> container;
-  EXPECT_EQ(attach(control, holder, &container), S_OK);
-  return holder;
 }

@@ -53,6 +53,3 @@ bool is_usable(IUnknown* control);
 using Host = void (*)(StrictContainer& container, IUnknown* control);
 void windows_forms(StrictContainer& container, IUnknown* control);
 void visual_basic(StrictContainer& container, IUnknown* control);
-
-// Puts a control into a window of the system's ATL container, and returns that window.
-HWND hold_by_atl(IUnknown* control, HWND form, const RECT& position);

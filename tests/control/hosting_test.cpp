@@ -27,11 +27,6 @@ void expect_no_trace_of(const Round& round) {
   EXPECT_EQ(outside::call("DllCanUnloadNow"), S_OK);
 }
 
-template <class... Interfaces>
-std::vector<IID> ids_of() {
-  return {__uuidof(Interfaces)...};
-}
-
 // Counts its own references and hands every question on to the control it is made of.
 struct Outer final : IUnknown {
   HRESULT WINAPI QueryInterface(REFIID id, void** object) override {
@@ -45,11 +40,28 @@ struct Outer final : IUnknown {
 
 // Also where the control is a part of another object.
 TEST(Interfaces, are_those_that_containers_ask_for_and_no_promise_of_safety) {
-  const auto known = ids_of<IUnknown, IDispatch, IOleObject, IOleControl, IOleWindow, IOleInPlaceObject,
-                            IOleInPlaceActiveObject, IViewObject, IViewObject2, IViewObjectEx, IPersist,
-                            IPersistStream, IPersistStreamInit, IPersistStorage, IPersistPropertyBag,
-                            IDataObject, IProvideClassInfo, IProvideClassInfo2, IConnectionPointContainer,
-                            ISpecifyPropertyPages, IQuickActivate, ISupportErrorInfo>();
+  const IID known[] = {IID_IUnknown,
+                       IID_IDispatch,
+                       IID_IOleObject,
+                       IID_IOleControl,
+                       IID_IOleWindow,
+                       IID_IOleInPlaceObject,
+                       IID_IOleInPlaceActiveObject,
+                       IID_IViewObject,
+                       IID_IViewObject2,
+                       IID_IViewObjectEx,
+                       IID_IPersist,
+                       IID_IPersistStream,
+                       IID_IPersistStreamInit,
+                       IID_IPersistStorage,
+                       IID_IPersistPropertyBag,
+                       IID_IDataObject,
+                       IID_IProvideClassInfo,
+                       IID_IProvideClassInfo2,
+                       IID_IConnectionPointContainer,
+                       IID_ISpecifyPropertyPages,
+                       IID_IQuickActivate,
+                       IID_ISupportErrorInfo};
   for (const auto& ids : classes) {
     const GUID own = guid(ids.interface_id);
     Outer outer;
@@ -58,10 +70,10 @@ TEST(Interfaces, are_those_that_containers_ask_for_and_no_promise_of_safety) {
     for (const auto& identity : {as<IUnknown>(create(ids).Get()), as<IUnknown>(&outer)}) {
       ComPtr<IUnknown> face, back;
       for (const IID& id : known) {
-        ASSERT_EQ(identity->QueryInterface(id, &face), S_OK) << &id - known.data();
-        EXPECT_EQ(as<IUnknown>(face), identity) << &id - known.data();
-        ASSERT_EQ(face->QueryInterface(own, &back), S_OK) << &id - known.data();
-        EXPECT_EQ(as<IUnknown>(back), identity) << &id - known.data();
+        ASSERT_EQ(identity->QueryInterface(id, &face), S_OK) << &id - known;
+        EXPECT_EQ(as<IUnknown>(face), identity) << &id - known;
+        ASSERT_EQ(face->QueryInterface(own, &back), S_OK) << &id - known;
+        EXPECT_EQ(as<IUnknown>(back), identity) << &id - known;
       }
       EXPECT_EQ(as<ISupportErrorInfo>(identity)->InterfaceSupportsErrorInfo(own), S_OK);
       for (const IID& id :
@@ -85,19 +97,16 @@ TEST(Verbs, do_what_they_say_with_and_without_a_container) {
   const std::string used = shown +
                            " OnUIActivate Focus Frame.SetActiveObject Document.SetActiveObject"
                            " Frame.NoTools Document.NoTools";
-  const struct {
-    LONG verb;
-    HRESULT sited, alone;
-    std::string log;
-  } rows[] = {{OLEIVERB_PRIMARY, S_OK, OLEOBJ_S_CANNOT_DOVERB_NOW, used},
-              {OLEIVERB_UIACTIVATE, S_OK, OLEOBJ_S_CANNOT_DOVERB_NOW, used},
-              {OLEIVERB_SHOW, S_OK, OLEOBJ_S_CANNOT_DOVERB_NOW, shown},
-              {OLEIVERB_OPEN, S_OK, OLEOBJ_S_CANNOT_DOVERB_NOW, shown},
-              {OLEIVERB_INPLACEACTIVATE, S_OK, OLEOBJ_S_CANNOT_DOVERB_NOW, shown},
-              {OLEIVERB_HIDE, S_OK, S_OK, ""},
-              {OLEIVERB_DISCARDUNDOSTATE, S_OK, S_OK, ""},
-              {1, OLEOBJ_S_INVALIDVERB, OLEOBJ_S_CANNOT_DOVERB_NOW, used},
-              {-7, E_NOTIMPL, E_NOTIMPL, ""}};
+  const std::tuple<LONG, HRESULT, HRESULT, std::string> rows[] = {
+      {OLEIVERB_PRIMARY, S_OK, OLEOBJ_S_CANNOT_DOVERB_NOW, used},
+      {OLEIVERB_UIACTIVATE, S_OK, OLEOBJ_S_CANNOT_DOVERB_NOW, used},
+      {OLEIVERB_SHOW, S_OK, OLEOBJ_S_CANNOT_DOVERB_NOW, shown},
+      {OLEIVERB_OPEN, S_OK, OLEOBJ_S_CANNOT_DOVERB_NOW, shown},
+      {OLEIVERB_INPLACEACTIVATE, S_OK, OLEOBJ_S_CANNOT_DOVERB_NOW, shown},
+      {OLEIVERB_HIDE, S_OK, S_OK, ""},
+      {OLEIVERB_DISCARDUNDOSTATE, S_OK, S_OK, ""},
+      {1, OLEOBJ_S_INVALIDVERB, OLEOBJ_S_CANNOT_DOVERB_NOW, used},
+      {-7, E_NOTIMPL, E_NOTIMPL, ""}};
   for (const auto& [verb, sited, alone, log] : rows) {
     SCOPED_TRACE(verb);
     StrictContainer container;
@@ -110,9 +119,12 @@ TEST(Verbs, do_what_they_say_with_and_without_a_container) {
     EXPECT_EQ(container.take_log(), log);
     const HWND window = FindWindowExW(container.form, nullptr, nullptr, L"Picture1");
     EXPECT_EQ(window != nullptr, !log.empty());
-    RECT client = {};
+    RECT client = {}, larger = {10, 10, 100, 80};
     GetClientRect(window, &client);
     EXPECT_EQ(client.right, window ? 28 : 0);
+    if (window) as<IOleInPlaceObject>(control)->SetObjectRects(&larger, &larger);
+    GetClientRect(window, &client);
+    EXPECT_EQ(client.right, window ? 90 : 0);
     EXPECT_EQ(window && GetFocus() == window, log == used);
     EXPECT_EQ(as<IOleInPlaceObject>(control)->InPlaceDeactivate(), S_OK);
     const std::string left = "Document.ClearActiveObject Frame.ClearActiveObject OnUIDeactivate NoFocus ";
@@ -165,24 +177,20 @@ TEST(Extent, is_kept_and_refused_where_nobody_could_see_or_draw_it) {
   DWORD connection = 0;
   as<IViewObject>(control)->SetAdvise(DVASPECT_CONTENT, 0, &container);
   EXPECT_EQ(as<IDataObject>(control)->DAdvise(&format, ADVF_NODATA, &container, &connection), S_OK);
-  const struct {
-    SIZEL wanted;
-    HRESULT status;
-    LONG kept;
-    const char* log;
-  } rows[] = {{{741, 741}, S_OK, 741, ""},  // the size of a new one: 28 pixels of 1/96 inch
-              {{3000, 2000}, S_OK, 3000, "OnViewChange OnDataChange"},
-              {{0, 500}, S_OK, 0, "OnViewChange OnDataChange"},  // as a form's resizing code sets it
-              {{500, -1}, E_INVALIDARG, 0, ""},
-              {{0x7FFFFFFF, 500}, E_INVALIDARG, 0, ""},
-              {{1, 1}, S_OK, 1, "OnViewChange OnDataChange"}};
-  for (const auto& [wanted, status, kept, log] : rows) {
-    EXPECT_EQ(resize(control.Get(), wanted.cx, wanted.cy), status) << wanted.cx;
+  const std::tuple<LONG, LONG, HRESULT, LONG, const char*> rows[] = {
+      {741, 741, S_OK, 741, ""},  // the size of a new one: 28 pixels of 1/96 inch
+      {3000, 2000, S_OK, 3000, "OnViewChange OnDataChange"},
+      {0, 500, S_OK, 0, "OnViewChange OnDataChange"},  // as a form's resizing code sets it
+      {500, -1, E_INVALIDARG, 0, ""},
+      {0x7FFFFFFF, 500, E_INVALIDARG, 0, ""},
+      {1, 1, S_OK, 1, "OnViewChange OnDataChange"}};
+  for (const auto& [width, height, status, kept, log] : rows) {
+    EXPECT_EQ(resize(control.Get(), width, height), status) << width;
     SIZEL extent = {};
     EXPECT_EQ(as<IViewObject2>(control)->GetExtent(DVASPECT_CONTENT, 0, nullptr, &extent), S_OK);
     EXPECT_EQ(extent.cx, kept);
-    EXPECT_EQ(container.take_log(), log) << wanted.cx;
-    EXPECT_TRUE(is_usable(control.Get())) << wanted.cx;
+    EXPECT_EQ(container.take_log(), log) << width;
+    EXPECT_TRUE(is_usable(control.Get())) << width;
   }
 }
 
@@ -231,33 +239,9 @@ TEST(Class, tells_its_events_its_pages_and_its_status) {
   }
 }
 
-void atl(StrictContainer& form, IUnknown* control) {
-  const HWND holder = hold_by_atl(control, form.form, {10, 10, 50, 50});
-  const auto object = as<IOleObject>(control);
-  const auto in_place = as<IOleInPlaceObject>(control);
-  HWND window = nullptr;
-  EXPECT_EQ(in_place->GetWindow(&window), S_OK);
-  MoveWindow(holder, 10, 10, 90, 70, TRUE);
-  RECT client = {};
-  GetClientRect(window, &client);
-  EXPECT_TRUE(client.right == 90 && client.bottom == 70);
-  ComPtr<IOleClientSite> site;
-  object->GetClientSite(&site);
-  EXPECT_EQ(object->DoVerb(OLEIVERB_UIACTIVATE, nullptr, site.Get(), 0, holder, &client), S_OK);
-  EXPECT_EQ(in_place->UIDeactivate(), S_OK);
-  const auto persistence = as<IPersistStreamInit>(control);
-  const auto stream = stream_of("");
-  EXPECT_EQ(persistence->Save(stream.Get(), TRUE), S_OK);
-  stream->Seek({}, STREAM_SEEK_SET, nullptr);
-  EXPECT_EQ(persistence->Load(stream.Get()), S_OK);
-  site.Reset();
-  DestroyWindow(holder);
-  EXPECT_FALSE(IsWindow(window));
-}
-
 TEST(Containers, come_and_go_a_thousand_times_without_a_trace) {
-  for (const Host host : {windows_forms, visual_basic, atl}) {
-    SCOPED_TRACE(host == windows_forms ? "Windows Forms" : host == visual_basic ? "Visual Basic" : "ATL");
+  for (const Host host : {windows_forms, visual_basic}) {
+    SCOPED_TRACE(host == windows_forms ? "Windows Forms" : "Visual Basic");
     StrictContainer container;
     size_t turn = 0;
     expect_no_trace_of([&] {
@@ -289,12 +273,7 @@ void at_every_call(const Round& round) {
 }
 
 TEST(Containers, may_fail_any_call_or_do_the_worst_during_it) {
-  using Worst = void (*)(StrictContainer&, IUnknown*);
-  const struct {
-    const char* name;
-    HRESULT failure;
-    Worst worst;
-  } ways[] = {
+  const std::tuple<const char*, HRESULT, void (*)(StrictContainer&, IUnknown*)> ways[] = {
       {"fails", E_FAIL, nullptr},
       {"refuses", S_FALSE, nullptr},
       {"goes", S_OK, [](StrictContainer&, IUnknown* it) { as<IOleObject>(it)->SetClientSite(nullptr); }},
@@ -306,12 +285,12 @@ TEST(Containers, may_fail_any_call_or_do_the_worst_during_it) {
       {"ends", S_OK, [](StrictContainer&, IUnknown* it) { as<IOleInPlaceObject>(it)->InPlaceDeactivate(); }},
       {"destroys", S_OK, [](StrictContainer& in, IUnknown*) { DestroyWindow(in.window()); }}};
   for (const Host host : {windows_forms, visual_basic}) {
-    for (const auto& way : ways) {
-      SCOPED_TRACE(way.name);
+    for (const auto& [name, failure, worst] : ways) {
+      SCOPED_TRACE(name);
       at_every_call([&](StrictContainer& container) {
         const auto control = create(classes[0]);
-        container.failure = way.failure;
-        if (way.worst) container.interruption = [&] { way.worst(container, control.Get()); };
+        container.failure = failure;
+        if (worst) container.interruption = [&] { worst(container, control.Get()); };
         host(container, control.Get());
         EXPECT_TRUE(container.in_place == 0 && container.with_ui == 0 && !container.out_of_order)
             << container.log;

@@ -72,15 +72,12 @@ TEST(Persistence, loads_what_was_ever_saved_and_refuses_what_is_damaged) {
 }
 
 TEST(Persistence, takes_an_empty_bag_for_the_defaults_and_refuses_a_wrong_one) {
-  const struct {
-    std::map<std::wstring, std::wstring> texts;
-    HRESULT failure, status;
-    LONG width;
-  } rows[] = {{{}, S_OK, S_OK, 741},
-              {{{L"_ExtentX", L"900"}}, S_OK, S_OK, 900},
-              {{{L"_ExtentX", L"wide"}}, S_OK, STG_E_DOCFILECORRUPT, 2222},
-              {{{L"_ExtentX", L"900"}, {L"_ExtentY", L"-1"}}, S_OK, STG_E_DOCFILECORRUPT, 2222},
-              {{}, E_ACCESSDENIED, E_ACCESSDENIED, 2222}};
+  const std::tuple<std::map<std::wstring, std::wstring>, HRESULT, HRESULT, LONG> rows[] = {
+      {{}, S_OK, S_OK, 741},
+      {{{L"_ExtentX", L"900"}}, S_OK, S_OK, 900},
+      {{{L"_ExtentX", L"wide"}}, S_OK, STG_E_DOCFILECORRUPT, 2222},
+      {{{L"_ExtentX", L"900"}, {L"_ExtentY", L"-1"}}, S_OK, STG_E_DOCFILECORRUPT, 2222},
+      {{}, E_ACCESSDENIED, E_ACCESSDENIED, 2222}};
   for (const auto& [texts, failure, status, width] : rows) {
     Bag bag;
     bag.texts = texts;
@@ -93,12 +90,8 @@ TEST(Persistence, takes_an_empty_bag_for_the_defaults_and_refuses_a_wrong_one) {
 }
 
 TEST(Persistence, calls_only_clean_what_was_saved_in_its_place) {
-  const struct {
-    BOOL same_as_load;
-    bool into_new;
-    HRESULT dirty;
-  } rows[] = {{FALSE, false, S_OK}, {FALSE, true, S_FALSE}, {TRUE, false, S_FALSE}};
-  for (const auto& [same_as_load, into_new, dirty] : rows) {
+  for (const auto& [same_as_load, into_new, dirty] :
+       {std::tuple{FALSE, false, S_OK}, {FALSE, true, S_FALSE}, {TRUE, false, S_FALSE}}) {
     const auto control = create(classes[1]);
     const auto storing = as<IPersistStorage>(control);
     const auto file = new_storage();

@@ -1,4 +1,6 @@
 // NewEmail: a mail from plain parameters, which goes on after each failure.
+#include <regex>
+
 #include "outlook_test.h"
 
 namespace {
@@ -29,25 +31,22 @@ class NewEmail : public OutlookTest {
 };
 
 TEST_F(NewEmail, TakesItsStepsAndUsesTheAttachmentsUp) {
-  const struct {
-    const wchar_t* attachment;
-    std::vector<std::string> paths;
-    std::string left;
-  } rows[] = {{L"", {}, ""},
-              {L" a.txt ", {"a.txt"}, " a.txt "},
-              {L"a.txt; ;b.txt", {"a.txt", "b.txt"}, "b.txt"},
-              {L"a.txt;", {"a.txt"}, ""},
-              {L";;", {}, ""},
-              {L" a ; b ; c ", {" a ", "b ", "c"}, "c"},
-              {L" ;\t", {" ", "\t"}, "\t"},
-              {L"  ", {""}, "  "}};
-  for (const auto& row : rows) {
-    _variant_t attachment = row.attachment;
+  const std::tuple<const wchar_t*, std::vector<std::string>, std::string> rows[] = {
+      {L"", {}, ""},
+      {L" a.txt ", {"a.txt"}, " a.txt "},
+      {L"a.txt; ;b.txt", {"a.txt", "b.txt"}, "b.txt"},
+      {L"a.txt;", {"a.txt"}, ""},
+      {L";;", {}, ""},
+      {L" a ; b ; c ", {" a ", "b ", "c"}, "c"},
+      {L" ;\t", {" ", "\t"}, "\t"},
+      {L"  ", {""}, "  "}};
+  for (const auto& [given, paths, left] : rows) {
+    _variant_t attachment = given;
     compose(false, false, attachment);
     std::string steps = filled;
-    for (const auto& path : row.paths) steps += add(path);
+    for (const auto& path : paths) steps += add(path);
     EXPECT_EQ(log(), steps + shown);
-    EXPECT_EQ(describe(attachment), "bstr \"" + row.left + "\"");
+    EXPECT_EQ(describe(attachment), text_result(left));
   }
   _variant_t none = text({});
   compose(true, true, none);
@@ -61,9 +60,8 @@ TEST_F(NewEmail, GoesOnAfterTheStatementThatFails) {
   const std::map<std::string, int> numbers = {{no_member, 5941}, {no_object, 424}, {not_set, 91}};
   for (const bool send : {false, true}) {
     const std::string steps = filled + add("a") + add("b") + (send ? sent : shown);
-    std::vector<std::string> lines;
-    for (size_t from = 0, end = 0; end != steps.npos; from = end + 3)
-      lines.push_back(steps.substr(from, (end = steps.find(" | ", from)) - from));
+    static const std::regex bar(" \\| ");
+    const std::vector<std::string> lines(std::sregex_token_iterator(steps.begin(), steps.end(), bar, -1), {});
     for (size_t failing = 0; failing < lines.size(); ++failing) {
       SCOPED_TRACE(lines[failing]);
       make_ready();

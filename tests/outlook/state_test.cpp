@@ -101,23 +101,20 @@ TEST_F(State, DatesAreConvertedBeforeAnythingIsAsked) {
 }
 
 TEST_F(State, AttachmentsAreCountedWithoutThoseThatTheBodyNames) {
-  const struct {
-    short number;
-    const wchar_t *body, *name;
-    std::string saved;
-  } rows[] = {{1, L"a LOGO.PNG", L"logo.png", "call Logo"},
-              {1, L"xlogo.pngx", L"logo.png", "call Report"},
-              {1, L"text", L"", "call Report"},
-              {1, L"", L"", "call Logo"},
-              {2, L"report.pdf", L"a", "call Figures"},
-              {0, L"", L"a", "next Attachments"},
-              {-1, L"", L"a", "next Attachments"}};
+  const std::tuple<short, const wchar_t*, const wchar_t*, std::string> rows[] = {
+      {1, L"a LOGO.PNG", L"logo.png", "call Logo"},
+      {1, L"xlogo.pngx", L"logo.png", "call Report"},
+      {1, L"text", L"", "call Report"},
+      {1, L"", L"", "call Logo"},
+      {2, L"report.pdf", L"a", "call Figures"},
+      {0, L"", L"a", "next Attachments"},
+      {-1, L"", L"a", "next Attachments"}};
   make_ready();
-  for (const auto& row : rows) {
-    office_.answers["Email.Body"] = {row.body};
-    office_.answers["Logo.FileName"] = {row.name};
-    expect(L"SaveEmailAttachment", {row.number, L""}, "bool -1");
-    EXPECT_EQ(office_.log.back().substr(0, office_.log.back().find('.')), row.saved);
+  for (const auto& [number, body, name, saved] : rows) {
+    office_.answers["Email.Body"] = {body};
+    office_.answers["Logo.FileName"] = {name};
+    expect(L"SaveEmailAttachment", {number, L""}, "bool -1");
+    EXPECT_EQ(office_.log.back().substr(0, office_.log.back().find('.')), saved);
   }
   office_.answers["Attachments.[newenum]"].items.assign(32768, "Report");
   expect(L"SaveEmailAttachment", {short{0}, L""}, "bool 0", "Couldn't save Attachment Overflow : 0 : 1");

@@ -22,24 +22,20 @@ TEST(Registration, of_one_bitness_keeps_what_the_other_needs_until_both_are_gone
   ASSERT_EQ(regsvr32(L"/u", other), 0u);
   // What there is whenever just this bitness is registered, or none; together they have what each has alone.
   std::map<std::string, Keys> seen = {{"", shared_registry()}};
-  struct Step {
-    const wchar_t* options;
-    const std::wstring& library;
-    std::string registered;
-  };
-  for (const Step& step : {Step{L"", path, "64"},
-                           {L"/u", path, ""},
-                           {L"", other, "32"},
-                           {L"", path, "both"},
-                           {L"/u", other, "64"},
-                           {L"", other, "both"},
-                           {L"/u", path, "32"},
-                           {L"/u", other, ""}}) {
-    ASSERT_EQ(regsvr32(step.options, step.library), 0u);
+  for (const auto& [options, library, registered] :
+       {std::tuple<const wchar_t*, std::wstring, std::string>{L"", path, "64"},
+        {L"/u", path, ""},
+        {L"", other, "32"},
+        {L"", path, "both"},
+        {L"/u", other, "64"},
+        {L"", other, "both"},
+        {L"/u", path, "32"},
+        {L"/u", other, ""}}) {
+    ASSERT_EQ(regsvr32(options, library), 0u);
     const Keys now = shared_registry();
-    Keys& expected = seen.try_emplace(step.registered, now).first->second;
-    if (step.registered == "both") (expected = seen["32"]).insert(seen["64"].begin(), seen["64"].end());
-    EXPECT_EQ(difference(expected, now), L"") << step.registered;
+    Keys& expected = seen.try_emplace(registered, now).first->second;
+    if (registered == "both") (expected = seen["32"]).insert(seen["64"].begin(), seen["64"].end());
+    EXPECT_EQ(difference(expected, now), L"") << registered;
   }
 }
 

@@ -64,28 +64,24 @@ Keys registered(HKEY among, const Keys& before) {
 }
 
 TEST(Registration, writes_exactly_its_own_keys_and_takes_them_back) {
-  struct Step {
-    BOOL install;
-    LPCWSTR scope;               // as DllInstall takes it; null is one of the other two entry points
-    bool for_machine, for_user;  // what is registered afterwards
-  };
   unregister_all();
   const Keys machine = registry(), user = registry(View::all_keys, HKEY_CURRENT_USER);
   const Keys whole_machine = registry(View::all_keys);
-  for (const Step& step : {Step{TRUE, nullptr, true, false},
-                           {TRUE, L"user", true, true},
-                           {FALSE, nullptr, false, true},
-                           {TRUE, L"", true, true},
-                           {FALSE, L"USER", true, false},
-                           {FALSE, L"", false, false},
-                           {TRUE, L"User", false, true},
-                           {FALSE, L"user", false, false}}) {
-    SCOPED_TRACE(step.scope ? step.scope : L"none");
-    const auto other_entry = step.install ? "DllRegisterServer" : "DllUnregisterServer";
-    EXPECT_EQ(step.scope ? call("DllInstall", step.install, step.scope) : call(other_entry), S_OK);
-    EXPECT_EQ(difference(step.for_machine ? registered(HKEY_LOCAL_MACHINE, machine) : machine, registry()),
-              L"");
-    EXPECT_EQ(difference(step.for_user ? registered(HKEY_CURRENT_USER, user) : user,
+  // A scope is as DllInstall takes it; null is one of the other two entry points.
+  for (const auto& [install, scope, for_machine, for_user] :
+       {std::tuple<BOOL, LPCWSTR, bool, bool>{TRUE, nullptr, true, false},
+        {TRUE, L"user", true, true},
+        {FALSE, nullptr, false, true},
+        {TRUE, L"", true, true},
+        {FALSE, L"USER", true, false},
+        {FALSE, L"", false, false},
+        {TRUE, L"User", false, true},
+        {FALSE, L"user", false, false}}) {
+    SCOPED_TRACE(scope ? scope : L"none");
+    const auto other_entry = install ? "DllRegisterServer" : "DllUnregisterServer";
+    EXPECT_EQ(scope ? call("DllInstall", install, scope) : call(other_entry), S_OK);
+    EXPECT_EQ(difference(for_machine ? registered(HKEY_LOCAL_MACHINE, machine) : machine, registry()), L"");
+    EXPECT_EQ(difference(for_user ? registered(HKEY_CURRENT_USER, user) : user,
                          registry(View::all_keys, HKEY_CURRENT_USER)),
               L"");
   }
