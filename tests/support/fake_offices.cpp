@@ -50,17 +50,37 @@ void teach_word(FakeOffice& office) {
 
 }  // namespace
 
-FakeClass::FakeClass(FakeOffice& office, const CLSID& class_id, const std::string& label,
-                     const std::string& object)
+FakeClass::FakeClass(FakeOffice& office, const CLSID& class_id, const std::string& label, const char* object,
+                     bool named)
     : office_(office), label_(label), object_(object) {
   CoInitialize(nullptr);
   CoRegisterClassObject(class_id, static_cast<IClassFactory*>(this),
                         CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, REGCLS_MULTIPLEUSE, &registration_);
+  if (!named) return;
+  program_key_ = L"Software\\Classes\\" + std::wstring(label.begin(), label.end());
+  wchar_t own[64] = {}, earlier[64] = {};
+  StringFromGUID2(class_id, own, 64);
+  DWORD bytes = sizeof(earlier);
+  RegGetValueW(HKEY_LOCAL_MACHINE, (program_key_ + L"\\CLSID").c_str(), nullptr, RRF_RT_REG_SZ, nullptr,
+               earlier, &bytes);
+  // What an interrupted test left behind was not there before either.
+  if (std::wstring_view(earlier) != own) earlier_class_ = earlier;
+  name(own);
 }
 
 FakeClass::~FakeClass() {
   CoRevokeClassObject(registration_);
   CoUninitialize();
+  if (!earlier_class_.empty())
+    name(earlier_class_);
+  else if (!program_key_.empty())
+    RegDeleteTreeW(HKEY_LOCAL_MACHINE, program_key_.c_str());
+}
+
+void FakeClass::name(const std::wstring& class_id) const {
+  const auto bytes = static_cast<DWORD>((class_id.size() + 1) * sizeof(wchar_t));
+  RegSetKeyValueW(HKEY_LOCAL_MACHINE, (program_key_ + L"\\CLSID").c_str(), nullptr, REG_SZ, class_id.c_str(),
+                  bytes);
 }
 
 HRESULT FakeClass::QueryInterface(REFIID iid, void** object) {
@@ -78,38 +98,11 @@ HRESULT FakeClass::CreateInstance(IUnknown*, REFIID iid, void** object) {
   return result;
 }
 
-FakeProgramId::FakeProgramId(const std::wstring& program_id, const CLSID& class_id)
-    : program_key_(L"Software\\Classes\\" + program_id), class_key_(program_key_ + L"\\CLSID") {
-  wchar_t own[64] = {}, earlier[64] = {};
-  StringFromGUID2(class_id, own, 64);
-  DWORD bytes = sizeof(earlier);
-  RegGetValueW(HKEY_LOCAL_MACHINE, class_key_.c_str(), nullptr, RRF_RT_REG_SZ, nullptr, earlier, &bytes);
-  // What an interrupted test left behind was not there before either.
-  if (std::wstring_view(earlier) != own) earlier_class_ = earlier;
-  name_class(own);
-}
+FakeWord::FakeWord() : class_(*this, word_id, "Word.Application", "Application") { teach_word(*this); }
 
-FakeProgramId::~FakeProgramId() {
-  if (earlier_class_.empty()) {
-    RegDeleteTreeW(HKEY_LOCAL_MACHINE, program_key_.c_str());
-  } else {
-    name_class(earlier_class_);
-  }
-}
-
-void FakeProgramId::name_class(const std::wstring& class_id) const {
-  const auto bytes = static_cast<DWORD>((class_id.size() + 1) * sizeof(wchar_t));
-  RegSetKeyValueW(HKEY_LOCAL_MACHINE, class_key_.c_str(), nullptr, REG_SZ, class_id.c_str(), bytes);
-}
-
-FakeWord::FakeWord()
-    : name_(L"Word.Application", word_id), class_(*this, word_id, "Word.Application", "Application") {
-  teach_word(*this);
-}
-
-FakeSuiteClasses::FakeSuiteClasses()
-    : manager_(*this, manager_id, "com.sun.star.ServiceManager", "Application"),
-      global_(*this, global_id, "Global", "Global") {
+FakeSuite::FakeSuite(bool named)
+    : manager_(*this, manager_id, "com.sun.star.ServiceManager", "Application", named),
+      global_(*this, global_id, "Global", "Global", false) {
   teach_word(*this);
   objects.insert({"GetSelection", "GetText", "createSearchDescriptor"});
   answers.merge(std::map<std::string, Answer>{
@@ -126,11 +119,7 @@ FakeSuiteClasses::FakeSuiteClasses()
   });
 }
 
-FakeSuite::FakeSuite() : name_(L"com.sun.star.ServiceManager", manager_id) {}
-
-FakeOutlook::FakeOutlook()
-    : name_(L"Outlook.Application", outlook_id),
-      class_(*this, outlook_id, "Outlook.Application", "Application") {
+FakeOutlook::FakeOutlook() : class_(*this, outlook_id, "Outlook.Application", "Application") {
   objects = {"Attachments", "Exceptions"};
   answers = {
       {"Application.GetNamespace", {.object = "NameSpace"}},

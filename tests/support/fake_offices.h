@@ -4,10 +4,12 @@
 #include "fake_object.h"
 
 // While one lives, every creation of the class in this apartment gives a new object of the office, called
-// `object`. A creation is the step "create " with `label` and fails as any other step.
+// `object`: a step "create LABEL", which fails as any other. Where it is `named`, its label is its program
+// identifier; the machine's own classes are put back at the end.
 class FakeClass : private IClassFactory {
  public:
-  FakeClass(FakeOffice& office, const CLSID& class_id, const std::string& label, const std::string& object);
+  FakeClass(FakeOffice& office, const CLSID& class_id, const std::string& label, const char* object,
+            bool named = true);
   ~FakeClass();
   FakeClass(const FakeClass&) = delete;
 
@@ -17,52 +19,27 @@ class FakeClass : private IClassFactory {
   ULONG WINAPI Release() override { return 1; }
   HRESULT WINAPI CreateInstance(IUnknown* outer, REFIID iid, void** object) override;
   HRESULT WINAPI LockServer(BOOL) override { return S_OK; }
+  void name(const std::wstring& class_id) const;
 
   FakeOffice& office_;
-  std::string label_, object_;
+  const std::string label_, object_;
+  std::wstring program_key_, earlier_class_;
   DWORD registration_ = 0;
 };
 
-// While one lives, the program identifier names the class. The machine's classes are put back at the end.
-class FakeProgramId {
- public:
-  FakeProgramId(const std::wstring& program_id, const CLSID& class_id);
-  ~FakeProgramId();
-  FakeProgramId(const FakeProgramId&) = delete;
-
- private:
-  void name_class(const std::wstring& class_id) const;
-
-  std::wstring program_key_, class_key_, earlier_class_;
-};
-
 // "Word.Application", with as much of the object model behind it as the members use.
-class FakeWord : public FakeOffice {
- public:
+struct FakeWord : FakeOffice {
   FakeWord();
-
- private:
-  FakeProgramId name_;
   FakeClass class_;
 };
 
-// The office suite's service manager and the word processor's class Global in this apartment, under no name.
-// The service manager is called "Application", and it and the document "Document" answer the word processor's
-// members too: what the two controls share must leave the same log.
-struct FakeSuiteClasses : FakeOffice {
-  FakeSuiteClasses();
-
- private:
+// The office suite's service manager, "com.sun.star.ServiceManager" or under no name, and the word
+// processor's class Global in this apartment. The service manager is called "Application", and it and the
+// document "Document" answer the word processor's members too: what the two controls share must leave the
+// same log.
+struct FakeSuite : FakeOffice {
+  explicit FakeSuite(bool named = true);
   FakeClass manager_, global_;
-};
-
-// The same as "com.sun.star.ServiceManager".
-class FakeSuite final : public FakeSuiteClasses {
- public:
-  FakeSuite();
-
- private:
-  FakeProgramId name_;
 };
 
 // A kind of Outlook's items as the object model has it: its numbers as item, as new item and of its folder.
@@ -83,11 +60,7 @@ inline constexpr ItemKind item_kinds[] = {
 
 // "Outlook.Application", with as much of the object model behind it as the members use. A collection's first
 // and every next item is of the folder's kind; "Foreign" is an item of no kind, a distribution list.
-class FakeOutlook final : public FakeOffice {
- public:
+struct FakeOutlook : FakeOffice {
   FakeOutlook();
-
- private:
-  FakeProgramId name_;
   FakeClass class_;
 };
