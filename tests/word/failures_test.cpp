@@ -3,12 +3,7 @@
 
 namespace {
 
-struct Told {
-  Failure failure;
-  const char* message;
-};
-
-const Told told[] = {
+const std::pair<Failure, const char*> told[] = {
     {{DISP_E_EXCEPTION, 0x800A1735, 0, L"Own text."}, "5941 :  Own text."},
     {{DISP_E_EXCEPTION, 0x80070057, 0, L"Own text."}, "-2147024809 :  Own text."},
     {{DISP_E_EXCEPTION, 0, 4605, L"Own text."}, "4605 :  Own text."},
@@ -53,11 +48,11 @@ using Failures = WordTest;
 
 TEST_F(Failures, HaveTheirNumberAndDescription) {
   make_ready();
-  for (const auto& row : told) {
+  for (const auto& [failure, message] : told) {
     log();
     office_.fail_at = 1;
-    office_.failure = row.failure;
-    expect(L"PrintDoc", {1}, "empty", std::string("Print Doc ") + row.message);
+    office_.failure = failure;
+    expect(L"PrintDoc", {1}, "empty", std::string("Print Doc ") + message);
   }
 }
 

@@ -179,11 +179,9 @@ Row replacing(const std::string& flags) {
 const Row search[] = {
     {L"Search", {L"a"}, "ui1 1", searched("", forward_a, none), {chosen}},
     {L"Search", {L"a", 1, true, true}, "ui1 1", searched(from_top, forward_a, none), {chosen}},
-    searching("10000"),
-    searching("01000"),
-    searching("00100"),
-    searching("00010"),
-    searching("00001"),
+    searching("10101"),
+    searching("01100"),
+    searching("00011"),
     {L"Search", {L"a"}, "ui1 0", searched("", forward_a, none), {chosen, miss}},
     {L"Search", {L"a"}, "ui1 0", searched("", forward_a, none), {chosen, null}},
     {L"Replace", {L"a", L"b"}, "ui1 1", selected + one},
@@ -195,7 +193,7 @@ const Row search[] = {
     {L"Replace", {L"a", L"b"}, "ui1 0", selected + one, {null}},
 };
 
-const std::string first_row = "get Selection.Rows(i2 1) | ";
+const std::string whole = "get Range.Text", first_row = "get Selection.Rows(i2 1) | ";
 const std::string cell = first_row + "get Rows.Cells(&i4 2) | get Cells.Range | get Range.Text";
 const std::string in_table = "get Selection.Information(i2 12)";
 const Row tables[] = {
@@ -207,38 +205,30 @@ const Row tables[] = {
     {L"CellText", {2}, "bstr \"a\r\a\"", cell, {{"Range.Text", {L"a\r\a"}}}},
 };
 
-const auto part = [](const std::string& kind, int type) {
+std::string part(const std::string& kind, int type, const std::string& then = "") {
   return "get Document.Sections(i4 2) | get Sections." + kind + "(i4 " + std::to_string(type) + ") | get " +
-         kind + ".Exists";
-};
-const std::string whole = " | get Headers.Range | get Range.Text",
-                  in_header = " | get Headers.Range | get Range.Find | ";
+         kind + ".Exists" + (then.empty() ? "" : " | get " + kind + ".Range | ") + then;
+}
+std::string between(int start, int end) {
+  return "call Range.SetRange(i4 " + std::to_string(start) + ", i4 " + std::to_string(end) + ") | " + whole;
+}
+Row reading(const Arguments& arguments, const std::string& steps) {
+  return {L"ReadHeaderFooterText", arguments, "bstr \"0123456789\"", steps};
+}
+Row replacing_part(const Arguments& arguments, const std::string& step) {
+  return {L"ReplaceHeaderFooter", arguments, "ui1 1", part("Headers", 1, "get Range.Find | " + step)};
+}
+const std::pair<const std::string, Answer> absent = {"Headers.Exists", {false}};
 const Row headers[] = {
     {L"NumberOfSections", {}, "i4 3", "get Document.Sections | get Sections.Count"},
-    {L"ReadHeaderFooterText", {2, true, 1, 0, 0}, R"(bstr "0123456789")", part("Headers", 1) + whole},
-    {L"ReadHeaderFooterText",
-     {2, false, 3, 4, 6},
-     R"(bstr "0123456789")",
-     part("Footers", 3) + " | get Footers.Range | call Range.SetRange(i4 4, i4 6) | get Range.Text"},
-    {L"ReadHeaderFooterText",
-     {2, true, 2, -1, 6},
-     R"(bstr "0123456789")",
-     part("Headers", 2) + " | get Headers.Range | call Range.SetRange(i4 1, i4 6) | get Range.Text"},
-    {L"ReadHeaderFooterText",
-     {2, true, 2, 4, 0},
-     R"(bstr "0123456789")",
-     part("Headers", 2) + whole + " | call Range.SetRange(i4 4, i4 10) | get Range.Text"},
-    {L"ReadHeaderFooterText",
-     {2, true, 2, 0, 0},
-     R"(bstr "")",
-     part("Headers", 2),
-     {{"Headers.Exists", {false}}}},
-    {L"ReplaceHeaderFooter", {2, true, 1, L"a", L"b"}, "ui1 1", part("Headers", 1) + in_header + one},
-    {L"ReplaceHeaderFooter",
-     {2, true, 1, L"a", L"b", 0, false, true, true, false, true, false, true, 2},
-     "ui1 1",
-     part("Headers", 1) + in_header + all},
-    {L"ReplaceHeaderFooter", {2, true, 1, L"a", L"b"}, "ui1 0", part("Headers", 1) + in_header + one, {miss}},
+    reading({2, true, 1, 0, 0}, part("Headers", 1, whole)),
+    reading({2, false, 3, 4, 6}, part("Footers", 3, between(4, 6))),
+    reading({2, true, 2, -1, 6}, part("Headers", 2, between(1, 6))),
+    reading({2, true, 2, 4, 0}, part("Headers", 2, whole + " | " + between(4, 10))),
+    {L"ReadHeaderFooterText", {2, true, 2, 0, 0}, no_text, part("Headers", 2), {absent}},
+    {L"ReplaceHeaderFooter", {2, true, 2, L"a", L"b"}, "ui1 0", part("Headers", 2), {absent}},
+    replacing_part({2, true, 1, L"a", L"b"}, one),
+    replacing_part({2, true, 1, L"a", L"b", 0, false, true, true, false, true, false, true, 2}, all),
 };
 
 // OpenWriter has all but its own members from ZORBWord.

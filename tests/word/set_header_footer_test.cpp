@@ -106,10 +106,4 @@ TEST_F(SetHeaderFooter, NeedsTheApplicationAndSomethingToDo) {
   EXPECT_EQ(log(), "");
 }
 
-TEST_F(WordTest, NothingIsFoundInAHeaderThatDoesNotExist) {
-  make_ready();
-  office_.answers["Headers.Exists"] = {false};
-  expect(L"ReplaceHeaderFooter", {1, true, 2, L"a", L"b"}, "ui1 0");
-}
-
 }  // namespace
