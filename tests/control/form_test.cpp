@@ -24,7 +24,6 @@ bool comes_to_show(const Pixels& expected, int left, int top) {
   return false;
 }
 
-// Puts a control into a window of the system's ATL container.
 void hold_by_atl(IUnknown* control, HWND form, int left, int top) {
   static const HMODULE atl = LoadLibraryW(L"atl100.dll");
   const auto start = reinterpret_cast<BOOL(WINAPI*)()>(GetProcAddress(atl, "AtlAxWinInit"));

@@ -45,7 +45,6 @@ ComPtr<IStorage> new_storage();
 HRESULT draw(IUnknown* control, HDC dc, RECTL bounds, DWORD aspect = DVASPECT_CONTENT, LONG index = -1);
 HRESULT resize(IUnknown* control, LONG width, LONG height);
 
-// Whether the control still draws itself, knows its members and can be saved.
 bool is_usable(IUnknown* control);
 
 // How a container creates, loads, shows, activates, saves and closes a control, in its own order. Failures

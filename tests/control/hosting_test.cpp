@@ -1,5 +1,4 @@
-// The controls in containers: what they answer, the order of activation, containers that fail or misbehave,
-// and nothing left behind.
+// The controls in containers, those that fail or misbehave among them, and nothing left behind.
 #include <objsafe.h>
 
 #include "hosted.h"

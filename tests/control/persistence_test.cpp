@@ -9,7 +9,6 @@ ComPtr<IDispatch> sized(const ClassIds& ids, LONG width, LONG height) {
   return control;
 }
 
-// Width and height, and whether the control can still be used.
 std::tuple<LONG, LONG, bool> state_of(IUnknown* control) {
   SIZEL extent = {};
   EXPECT_EQ(as<IOleObject>(control)->GetExtent(DVASPECT_CONTENT, &extent), S_OK);

@@ -1,5 +1,4 @@
-// The picture box: the same picture in a window, in any device context, in metafiles; and what the view says
-// of it.
+// The picture box, in a window, in any device context and in metafiles; and what the view says of it.
 #include "pictures.h"
 
 namespace {

@@ -1,9 +1,7 @@
 // Pictures that a control draws, as pixels.
 #pragma once
 
-#include <algorithm>
 #include <functional>
-#include <vector>
 
 #include "hosted.h"
 
@@ -34,7 +32,6 @@ inline Pixels drawn(const std::function<void(HDC)>& draw) {
   return pixels;
 }
 
-// Lets so many logical units stand for the picture.
 inline void map(HDC dc, SIZE window) {
   SetMapMode(dc, MM_ANISOTROPIC);
   SetWindowExtEx(dc, window.cx, window.cy, nullptr);

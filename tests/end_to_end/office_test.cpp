@@ -5,14 +5,12 @@
 
 namespace {
 
-// The file of that name in the user's temporary folder.
 _variant_t temporary(const std::wstring& name) {
   wchar_t folder[MAX_PATH];
   GetTempPathW(MAX_PATH, folder);
   return (folder + (L"zorb " + name)).c_str();
 }
 
-// The demo's template, which has a header, a footer and a table.
 _variant_t demo_template() { return project_file(L"examples\\letters.dotx").c_str(); }
 
 class Office : public HostTest<0> {

@@ -2,7 +2,6 @@
 #include <regex>
 
 #include "outlook_test.h"
-#include "support/text.h"
 
 namespace {
 

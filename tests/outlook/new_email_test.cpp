@@ -7,7 +7,6 @@ namespace {
 
 class NewEmail : public OutlookTest {
  protected:
-  // Calls NewEmail with those flags and a reference to `attachment`.
   void compose(bool html, bool send, _variant_t& attachment, const std::string& shown = "") {
     _variant_t reference;
     reference.vt = VT_BYREF | VT_BSTR;

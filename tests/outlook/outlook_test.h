@@ -67,7 +67,6 @@ class OutlookTest : public ControlTest<FakeOutlook, 1> {
     errors_at_boxes_.clear();
     ControlTest::expect(member, arguments, result, boxes);
   }
-  // Does what expect does, and the call must take `steps`.
   void check(const wchar_t* member, const Arguments& arguments, const std::string& result,
              const std::string& steps = "", const std::string& shown = "") {
     expect(member, arguments, result, shown);
@@ -122,9 +121,7 @@ class OutlookTest : public ControlTest<FakeOutlook, 1> {
 const std::string title = "[Lunch 3/5/2007 2:30:00 PM] ",
                   title_steps = "get Appointment.Subject | get Appointment.Start";
 
-// A result that is `text`, as check takes it.
 inline std::string text_result(const std::string& text) { return "bstr \"" + text + "\""; }
-// An argument or an answer.
 inline _variant_t value_of(const std::string& ascii) {
   return std::wstring(ascii.begin(), ascii.end()).c_str();
 }

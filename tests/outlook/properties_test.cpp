@@ -1,11 +1,9 @@
-// Every key of every property accessor, as the reference page lists them: what is read or written, how it is
-// converted, how it fails.
+// Every key of every property accessor, as the reference page lists them, and how each fails.
 #include <fstream>
 #include <regex>
 #include <set>
 
 #include "outlook_test.h"
-#include "support/text.h"
 
 namespace {
 
@@ -163,7 +161,6 @@ class Properties : public OutlookTest, public testing::WithParamInterface<Access
     if (sets_) arguments.push_back(value);
     check(accessor_.member, arguments, result, steps, box);
   }
-  // The same for a call that fails after `steps`.
   void check_failure(const Row& row, const _variant_t& value, std::string steps, int number,
                      const std::string& description) {
     const auto earlier = last_error(), error = recorded(number, description);

@@ -62,7 +62,6 @@ inline std::wstring library_path() {
   return path;
 }
 
-// Calls one of the library's entry points.
 template <class... Parameters>
 HRESULT call(const char* name, Parameters... arguments) {
   const auto address = reinterpret_cast<void*>(GetProcAddress(library(), name));

@@ -5,7 +5,6 @@
 
 #include "members.h"
 #include "support/message_boxes.h"
-#include "support/text.h"
 
 namespace outside {
 namespace {
@@ -33,7 +32,6 @@ TEST(Factory, gives_a_class_its_own_interfaces_which_keep_the_library) {
   }
 }
 
-// The types of a row's parameters, by reference or not, and of its result.
 std::vector<VARTYPE> types_of(const std::wstring& signature) {
   static const std::wregex pattern(L" (&?)(short|long|byte|flag|string|variant)");
   std::vector<VARTYPE> types;

@@ -79,7 +79,6 @@ TEST(Manifest, lets_hosts_create_the_controls_unregistered) {
   expect_controls(REGDB_E_CLASSNOTREG);
 }
 
-// Reaches a control from an apartment that it does not live in.
 DWORD WINAPI create_elsewhere(void*) {
   CoInitializeEx(nullptr, COINIT_MULTITHREADED);
   in_context(true, [] {

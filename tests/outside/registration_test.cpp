@@ -1,5 +1,4 @@
-// What registration writes into the machine's classes or the user's, key by key, and that nothing of it
-// stays.
+// What registration writes into the machine's classes or the user's, and that nothing of it stays.
 #include "registry.h"
 
 #include <sddl.h>

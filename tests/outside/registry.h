@@ -72,7 +72,6 @@ inline std::wstring difference(const Keys& before, const Keys& after) {
   return text;
 }
 
-// Runs a program to its end and returns its exit code.
 inline DWORD run(std::wstring command) {
   STARTUPINFOW startup = {};
   PROCESS_INFORMATION process;

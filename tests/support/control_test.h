@@ -2,7 +2,6 @@
 #pragma once
 
 #include <algorithm>
-#include <utility>
 
 #include "fake_object.h"
 #include "message_boxes.h"
@@ -65,8 +64,6 @@ class HostTest : public testing::Test {
  protected:
   ~HostTest() { EXPECT_EQ(taken_boxes(boxes_), ""); }
 
-  // Calls `member` late bound and returns its result as the log shows values, or "raised NUMBER DESCRIPTION"
-  // with the failure that reached the host.
   std::string call(const wchar_t* member, const Arguments& arguments = {}) {
     return late_call(control_.Get(), member, arguments);
   }
@@ -92,7 +89,6 @@ class ControlTest : public HostTest<class_index> {
     EXPECT_EQ(office_.live, 0) << "objects of the office application are still held";
   }
 
-  // Ends the control, and with it all that the library holds.
   void end_control() {
     control_.Reset();
     EXPECT_EQ(outside::call("DllCanUnloadNow"), S_OK);

@@ -11,7 +11,6 @@ struct PublishedMember {
   std::string result, boxes;  // after a failure
 };
 
-// The members of a class as a failure of that number and description leaves them.
 inline std::vector<PublishedMember> published_members(int class_index, int number,
                                                       const std::string& description) {
   const std::map<std::wstring, std::string> failures = {{L"byte", "ui1 0"},    {L"flag", "bool 0"},

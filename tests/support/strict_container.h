@@ -2,7 +2,6 @@
 // one it is told to.
 #pragma once
 
-#include <windows.h>
 #include <ole2.h>
 #include <ocidl.h>
 #include <olectl.h>

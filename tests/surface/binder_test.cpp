@@ -1,4 +1,5 @@
-// The binder in front of a control of the test's own: every form of an argument for every type of parameter.
+// The binder in front of a control of the test's own, with every form of an argument for every type of
+// parameter, and the members' frame.
 #include <gtest/gtest.h>
 #include <comutil.h>
 #include <cstring>
@@ -255,6 +256,24 @@ TEST_F(Binder, FindsNamesInAnyCase) {
   EXPECT_EQ(find({L"cOPY", L"LONG", L"requiredtext"}), (Ids{copy, int32, text, S_OK}));
   EXPECT_EQ(find({L"Copy", L"Short", L"Longer"}), (Ids{copy, int16, -1, DISP_E_UNKNOWNNAME}));
   EXPECT_EQ(find({L"Ref", nullptr}), (Ids{-1, -1, DISP_E_UNKNOWNNAME}));
+}
+
+TEST(Frame, AFailedCallLeavesNoStringToFree) {
+  BSTR result = nullptr;
+  const auto fails = [] { throw_runtime_error(6); };
+  EXPECT_EQ(trapped(&result, none, fails), static_cast<HRESULT>(0x800A0006));
+  EXPECT_EQ(result, nullptr);
+  EXPECT_EQ(trapped(&result, silent, fails), S_OK);
+  EXPECT_NE(result, nullptr);
+  SysFreeString(result);
+}
+
+// Last, because the process stays where nobody sees it.
+TEST(Frame, ShowsNothingWhereNobodyCanPressOk) {
+  const HWINSTA unseen = CreateWindowStationW(L"unseen", 0, WINSTA_ALL_ACCESS, nullptr);
+  ASSERT_NE(unseen, nullptr);
+  ASSERT_TRUE(SetProcessWindowStation(unseen));
+  show_message(L"Would wait for ever.");
 }
 
 }  // namespace

@@ -144,7 +144,6 @@ std::string searched(const std::string& top, std::string settings, const std::st
          "call Find.ClearFormatting" + std::regex_replace(settings, std::regex(";"), fetched + "put Find.") +
          fetched + "get Find.Execute";
 }
-// The arguments that begin so and go on with the five match flags.
 Arguments with_flags(Arguments arguments, const std::string& flags) {
   for (const char flag : flags) arguments.emplace_back(flag == '1');
   return arguments;

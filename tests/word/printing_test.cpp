@@ -50,34 +50,22 @@ TEST_F(Printing, MessageBoxesBelongToTheActiveWindow) {
   EXPECT_EQ(boxes[0].owner, window);
 }
 
-// Wine reads the list of printers from the registry at each request.
-class Printers {
- public:
-  explicit Printers(std::vector<std::wstring> names) : names_(std::move(names)) {
-    for (const auto& name : names_)
-      RegSetKeyValueW(HKEY_LOCAL_MACHINE, (key + name).c_str(), L"Name", REG_SZ, name.c_str(),
-                      static_cast<DWORD>((name.size() + 1) * sizeof(wchar_t)));
-  }
-  ~Printers() {
-    for (const auto& name : names_) RegDeleteTreeW(HKEY_LOCAL_MACHINE, (key + name).c_str());
-  }
-
- private:
-  inline static const std::wstring key = L"System\\CurrentControlSet\\Control\\Print\\Printers\\";
-  const std::vector<std::wstring> names_;
-};
-
 TEST_F(Printing, ToPdfTakesTheFirstPrinterOfThatName) {
+  // Wine reads the list of printers from here at each request.
+  const std::wstring key = L"System\\CurrentControlSet\\Control\\Print\\Printers\\";
   const std::string read = "get Application.ActivePrinter | ",
                     printed =
                         R"(put Application.ActivePrinter=bstr "!d PDF out" | call Document.PrintOut | )",
                     restored = R"(put Application.ActivePrinter=bstr "Kept")";
   for (const bool installed : {false, true}) {
-    const Printers printers({L"!a plain", L"!b pdf", L"!c Pdf", installed ? L"!d PDF out" : L"!d", L"!e p"});
-    check({L"SaveDocAsPDF",
-           {},
-           installed ? "bool -1" : "bool 0",
-           read + (installed ? printed : "") + restored});
+    const std::wstring names[] = {L"!a plain", L"!b pdf", L"!c Pdf", installed ? L"!d PDF out" : L"!d",
+                                  L"!e p"};
+    for (const auto& name : names)
+      RegSetKeyValueW(HKEY_LOCAL_MACHINE, (key + name).c_str(), L"Name", REG_SZ, name.c_str(),
+                      static_cast<DWORD>((name.size() + 1) * sizeof(wchar_t)));
+    const auto steps = read + (installed ? printed : "") + restored;
+    check({L"SaveDocAsPDF", {}, installed ? "bool -1" : "bool 0", steps});
+    for (const auto& name : names) RegDeleteTreeW(HKEY_LOCAL_MACHINE, (key + name).c_str());
   }
 }
 

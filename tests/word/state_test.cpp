@@ -1,5 +1,4 @@
 // What a control holds between calls, and what passes through it from and to the host.
-#include <utility>
 
 #include "word_test.h"
 

@@ -1,5 +1,4 @@
 // The word processor's Global object: one for the process, whatever apartment asks for it.
-#include <algorithm>
 
 #include "writer_test.h"
 

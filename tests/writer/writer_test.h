@@ -4,7 +4,6 @@
 #include "support/fake_offices.h"
 #include "support/member_rows.h"
 
-// How a document is loaded.
 inline std::string loaded(const std::string& path) {
   return "get Desktop.loadComponentFromURL(bstr \"file:///" + path +
          "\", bstr \"_blank\", i2 0, &array never dimensioned)";
