@@ -19,7 +19,8 @@ const std::string report =
     " | get Logo.FileName | next Attachments | get Email.Body | get Report.FileName | ";
 const std::string figures = "next Attachments | get Email.Body | get Figures.FileName | ";
 const std::string filled = "get NameSpace.GetDefaultFolder(i4 @number) | get @folder.Items | ";
-const std::string sent = "get NameSpace.GetDefaultFolder(i4 5) | get SentMail.Items | ";
+const std::string sent =
+    R"(get NameSpace.GetDefaultFolder(i4 5) | get SentMail.Items | call Fresh.Sort(bstr "[CreationTime]"))";
 const std::string gone = "get NameSpace.GetDefaultFolder(i4 3) | get DeletedItems.Items";
 const std::string restricted = R"(get Fresh.Restrict(bstr "a = ' '"))", of_class = " | get @found.Class";
 const std::string sorted = R"(call Fresh.Sort(bstr "[@key]"))",
@@ -60,10 +61,7 @@ const Row rows[] = {
     {L"InitItems", {L"@", L"a = ' '"}, filled + restricted + chosen, "@items>Chosen"},
     {L"InitItems", {L"Deleted @", L""}, gone, "@items>Fresh"},
     {L"InitItems", {L"Deleted @", L"a = ' '"}, gone + " | " + restricted, "@items>Chosen"},
-    {L"InitItems",
-     {L"Sent Items", L""},
-     sent + R"(call Fresh.Sort(bstr "[CreationTime]"))",
-     "EmailItems>Fresh"},
+    {L"InitItems", {L"Sent Items", L""}, sent, "EmailItems>Fresh"},
     {L"GetItemCount", {L"@"}, "get @items.Count", "", "i2 7"},
     {L"GetFirstItem", {L"@"}, "get @items.GetFirst" + of_class, "@item>@found"},
     {L"GetNextItem", {L"@"}, "get @items.GetNext" + of_class, "@item>@found"},

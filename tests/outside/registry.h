@@ -1,6 +1,7 @@
 // The registry as text, and the program that registers.
 #pragma once
 
+#include <process.h>
 #include <algorithm>
 #include <set>
 #include <vector>
@@ -72,23 +73,9 @@ inline std::wstring difference(const Keys& before, const Keys& after) {
   return text;
 }
 
-inline DWORD run(std::wstring command) {
-  STARTUPINFOW startup = {};
-  PROCESS_INFORMATION process;
-  startup.cb = sizeof startup;
-  require(CreateProcessW(nullptr, command.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup,
-                         &process),
-          "process");
-  DWORD code = STILL_ACTIVE;
-  WaitForSingleObject(process.hProcess, 30'000);
-  GetExitCodeProcess(process.hProcess, &code);
-  CloseHandle(process.hThread);
-  CloseHandle(process.hProcess);
-  return code;
-}
-
 inline DWORD regsvr32(const std::wstring& options, const std::wstring& path = library_path()) {
-  return run(L"regsvr32 /s " + options + L" \"" + path + L"\"");
+  const auto quoted = L"\"" + path + L"\"";
+  return _wspawnlp(_P_WAIT, L"regsvr32", L"regsvr32", L"/s", options.c_str(), quoted.c_str(), nullptr);
 }
 
 // So that a test starts with nothing registered, whatever an interrupted run left.

@@ -1,8 +1,37 @@
 // What the members of the word processors' controls ask of the office, as rows, and how they fail.
 #pragma once
 
+#include <map>
+#include <regex>
+
 #include "control_test.h"
-#include "published.h"
+#include "fake_offices.h"
+#include "outside/members.h"
+
+struct PublishedMember {
+  std::wstring name;
+  std::string result, boxes;  // after a failure
+};
+
+inline std::vector<PublishedMember> published_members(int class_index, int number,
+                                                      const std::string& description) {
+  const std::map<std::wstring, std::string> failures = {{L"byte", "ui1 0"},    {L"flag", "bool 0"},
+                                                        {L"short", "i2 0"},    {L"long", "i4 0"},
+                                                        {L"variant", "empty"}, {L"string", "bstr \"\""}};
+  char raised[20];
+  snprintf(raised, sizeof(raised), "raised 800A%04X ", number);
+  std::vector<PublishedMember> published;
+  for (const auto& member : outside::members_of(outside::classes[class_index])) {
+    const std::wstring text = member.signature;
+    auto boxes = std::regex_replace(member.fresh, std::regex("Object required"), description);
+    boxes = std::regex_replace(boxes, std::regex("424"), std::to_string(number));
+    const bool raises = boxes.starts_with("raised: ");
+    published.push_back({text.substr(text.find(L' ') + 1, text.find(L'(') - text.find(L' ') - 1),
+                         raises ? raised + description : failures.at(text.substr(text.rfind(L' ') + 1)),
+                         raises ? "" : boxes});
+  }
+  return published;
+}
 
 // A member's call on a control with an open document, its result, the steps that it takes and the boxes that
 // it shows. `fails` are the boxes where a step fails, % for what failed, if they are not the published ones.
@@ -89,4 +118,28 @@ class WordProcessorTest : public ControlTest<Office, class_index> {
 
   const std::string no_member = "No such member.";
   const std::vector<PublishedMember> failures_ = published_members(class_index, 5941, no_member);
+};
+
+class WordTest : public WordProcessorTest<FakeWord, 0> {
+ protected:
+  void check_kept() override {
+    EXPECT_EQ(office_.live, 2);
+    expect(L"SaveDoc", {}, "empty");
+    expect(L"SetActive", {true}, "ui1 1");
+    EXPECT_EQ(log(), "call Document.Save | call Application.Activate");
+  }
+};
+
+inline std::string loaded(const std::string& path) {
+  return "get Desktop.loadComponentFromURL(bstr \"file:///" + path +
+         "\", bstr \"_blank\", i2 0, &array never dimensioned)";
+}
+
+class WriterTest : public WordProcessorTest<FakeSuite, 2> {
+ protected:
+  void check_kept() override {
+    expect(L"ReadText", {0, 0}, "bstr \"all of it\"");
+    expect(L"OpenDoc", {L"b"}, "ui1 1");
+    EXPECT_EQ(log(), "get Document.GetText | get GetText.GetString | " + loaded("b"));
+  }
 };

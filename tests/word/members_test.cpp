@@ -2,8 +2,7 @@
 #include <set>
 #include <span>
 
-#include "word_test.h"
-#include "writer/writer_test.h"
+#include "support/member_rows.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // Printing: the host's messages, the owner of a message box and the system's printers.
-#include "word_test.h"
+#include "support/member_rows.h"
 
 namespace {
 

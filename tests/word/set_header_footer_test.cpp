@@ -1,5 +1,5 @@
 // SetHeaderFooter: what is copied, and that a failure leaves nothing open and nothing saved.
-#include "word_test.h"
+#include "support/member_rows.h"
 
 namespace {
 

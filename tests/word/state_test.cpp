@@ -1,6 +1,7 @@
-// What a control holds between calls, and what passes through it from and to the host.
+// What a control holds between calls, what passes through it from and to the host, and the number and
+// description of everything that can go wrong in a call.
 
-#include "word_test.h"
+#include "support/member_rows.h"
 
 namespace {
 
@@ -70,6 +71,79 @@ TEST_F(State, TextOfAnyLengthAndEveryPlaneGoesThroughUnchanged) {
     EXPECT_TRUE(log().ends_with("Selection.TypeText(" + describe(text) + ")"));
     expect(L"SelectionText", {}, describe(text));
     log();
+  }
+}
+
+const std::pair<Failure, const char*> told[] = {
+    {{DISP_E_EXCEPTION, 0x800A1735, 0, L"Own text."}, "5941 :  Own text."},
+    {{DISP_E_EXCEPTION, 0x80070057, 0, L"Own text."}, "-2147024809 :  Own text."},
+    {{DISP_E_EXCEPTION, 0, 4605, L"Own text."}, "4605 :  Own text."},
+    {{DISP_E_EXCEPTION, 0x800A1735, 0, L"Filled in.", true}, "5941 :  Filled in."},
+    {{DISP_E_EXCEPTION, 0x800A1735, 0, nullptr, false, L"From the object."}, "5941 :  From the object."},
+    {{DISP_E_EXCEPTION, 0x800A01A8}, "424 :  Object required"},
+    {{DISP_E_EXCEPTION, 0x80041FFF}, "-2147213313 :  Automation error"},
+    {{E_FAIL, 0, 0, nullptr, false, L"From the object."}, "-2147467259 :  From the object."},
+    {{static_cast<HRESULT>(0x80041FFF)}, "-2147213313 :  Automation error"},
+    {{static_cast<HRESULT>(0x800A01B8)}, "440 :  Automation error"},
+    {{E_FAIL}, "-2147467259 :  Call failed."},  // in the words of the system, which here is Wine
+    {{E_INVALIDARG}, "5 :  Invalid procedure call or argument"},
+    {{DISP_E_OVERFLOW}, "6 :  Overflow"},
+    {{E_OUTOFMEMORY}, "7 :  Out of memory"},
+    {{DISP_E_BADINDEX}, "9 :  Subscript out of range"},
+    {{DISP_E_ARRAYISLOCKED}, "10 :  This array is fixed or temporarily locked"},
+    {{DISP_E_TYPEMISMATCH}, "13 :  Type mismatch"},
+    {{E_ACCESSDENIED}, "70 :  Permission denied"},
+    {{STG_E_PATHNOTFOUND}, "76 :  Path not found"},
+    {{REGDB_E_CLASSNOTREG}, "429 :  ActiveX component can't create object"},
+    {{MK_E_UNAVAILABLE}, "429 :  ActiveX component can't create object"},
+    {{CO_E_CLASSSTRING}, "429 :  ActiveX component can't create object"},
+    {{CO_E_APPNOTFOUND}, "429 :  ActiveX component can't create object"},
+    {{CO_E_SERVER_EXEC_FAILURE}, "429 :  ActiveX component can't create object"},
+    {{E_NOINTERFACE}, "430 :  Class doesn't support Automation"},
+    {{STG_E_FILENOTFOUND}, "432 :  File name or class name not found during Automation operation"},
+    {{MK_E_CANTOPENFILE}, "432 :  File name or class name not found during Automation operation"},
+    {{DISP_E_UNKNOWNNAME}, "438 :  Object doesn't support this property or method"},
+    {{DISP_E_MEMBERNOTFOUND}, "438 :  Object doesn't support this property or method"},
+    {{E_NOTIMPL}, "445 :  Object doesn't support this action"},
+    {{DISP_E_NONAMEDARGS}, "446 :  Object doesn't support named arguments"},
+    {{DISP_E_UNKNOWNLCID}, "447 :  Object doesn't support current locale setting"},
+    {{DISP_E_PARAMNOTFOUND}, "448 :  Named argument not found"},
+    {{DISP_E_PARAMNOTOPTIONAL}, "449 :  Argument not optional"},
+    {{DISP_E_BADPARAMCOUNT}, "450 :  Wrong number of arguments or invalid property assignment"},
+    {{DISP_E_NOTACOLLECTION}, "451 :  Object not a collection"},
+    {{DISP_E_BADVARTYPE}, "458 :  Variable uses an Automation type not supported"},
+    {{static_cast<HRESULT>(0x800706BA)}, "462 :  The remote server machine does not exist or is unavailable"},
+};
+
+using Failures = WordTest;
+
+TEST_F(Failures, HaveTheirNumberAndDescription) {
+  make_ready();
+  for (const auto& [failure, message] : told) {
+    log();
+    office_.fail_at = 1;
+    office_.failure = failure;
+    expect(L"PrintDoc", {1}, "empty", std::string("Print Doc ") + message);
+  }
+}
+
+TEST_F(Failures, OfTheLookUpComeBeforeTheCall) {
+  make_ready();
+  office_.refused["Document.PrintOut"] = DISP_E_UNKNOWNNAME;
+  expect(L"PrintDoc", {1}, "empty", "Print Doc 438 :  Object doesn't support this property or method");
+  EXPECT_EQ(log(), "");
+}
+
+TEST_F(Failures, DoNotTakeTheTextOfAnEarlierOne) {
+  for (const bool refused : {false, true}) {
+    make_ready();
+    office_.fail_at = 1;
+    office_.failure = {DISP_E_EXCEPTION, 1, 0, L"Own.", false, L"Stale."};
+    expect(L"Cut", {}, "empty");
+    log();
+    office_.failure = {static_cast<HRESULT>(0x80041FFF)};
+    if (refused) office_.refused["Document.PrintOut"] = office_.failure.result;
+    expect(L"PrintDoc", {1}, "empty", "Print Doc -2147213313 :  Automation error");
   }
 }
 

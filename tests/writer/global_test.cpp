@@ -1,6 +1,6 @@
 // The word processor's Global object: one for the process, whatever apartment asks for it.
 
-#include "writer_test.h"
+#include "support/member_rows.h"
 
 namespace {
 

@@ -1,5 +1,5 @@
 // What OpenWriter's own members ask of the suite, and how they fail at each of their steps.
-#include "writer_test.h"
+#include "support/member_rows.h"
 
 namespace {
 
