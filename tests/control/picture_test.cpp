@@ -1,4 +1,6 @@
 // The picture box, in a window, in any device context and in metafiles; and what the view says of it.
+#include <algorithm>
+
 #include "pictures.h"
 
 namespace {
