@@ -1,7 +1,9 @@
 #include "ZORBOffice/common/automation_object.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
+#include <utility>
 
 #include "ZORBOffice/common/failure.h"
 
@@ -12,84 +14,132 @@ constexpr std::size_t max_arguments = 12;
 
 using Arguments = std::initializer_list<Argument>;
 
-struct Identifiers {
-  DISPID member = DISPID_UNKNOWN;
-  std::array<DISPID, max_arguments> named_arguments;
-};
-
 // What an earlier call left in the thread's error information must not describe the next one's failure.
 void forget_earlier_failure() { SetErrorInfo(0, nullptr); }
 
-// Every name that reaches an office application is looked up here.
-Identifiers look_up(IDispatch* object, const wchar_t* name, Arguments arguments) {
-  std::array<wchar_t*, max_arguments + 1> names;
-  std::array<DISPID, max_arguments + 1> ids;
-  UINT count = 0;
-  names[count++] = const_cast<wchar_t*>(name);
-  for (const Argument& argument : arguments) {
-    if (argument.name()) names[count++] = const_cast<wchar_t*>(argument.name());
-  }
+MemberId ask(IDispatch* object, Names names) {
+  std::array<DISPID, max_named_arguments + 1> ids;
   ids.fill(DISPID_UNKNOWN);
   forget_earlier_failure();
   const HRESULT result =
-      object->GetIDsOfNames(IID_NULL, names.data(), count, LOCALE_USER_DEFAULT, ids.data());
+      object->GetIDsOfNames(IID_NULL, const_cast<LPOLESTR*>(names.data()), static_cast<UINT>(names.size()),
+                            LOCALE_USER_DEFAULT, ids.data());
   if (result == DISP_E_UNKNOWNNAME && ids[0] != DISPID_UNKNOWN) {
     throw_runtime_error(runtime_error::named_argument_not_found);
   }
   check(result);
-
-  Identifiers identifiers{ids[0], {}};
-  for (UINT i = 1; i < count; ++i) identifiers.named_arguments[i - 1] = ids[i];
-  return identifiers;
+  MemberId id{ids[0]};
+  std::copy(ids.begin() + 1, ids.end(), id.named_arguments.begin());
+  return id;
 }
 
-void invoke(IDispatch* object, DISPID member, WORD flags, DISPPARAMS& parameters, VARIANT* result) {
+// Every name that reaches an office application is looked up here: in what is known of the object, otherwise
+// by asking it. was_known tells which.
+MemberId look_up(const AutomationObject& object, Names names, bool& was_known) {
+  MemberNames* const known = object.names().get();
+  const MemberId* const found = known ? known->find(names) : nullptr;
+  was_known = found != nullptr;
+  if (found) return *found;
+  const MemberId asked = ask(object.dispatch(), names);
+  if (known) known->remember(names, asked);
+  return asked;
+}
+
+HRESULT try_to_invoke(IDispatch* object, DISPID member, WORD flags, DISPPARAMS& parameters, VARIANT* result) {
   forget_earlier_failure();
   EXCEPINFO information{};
   UINT argument = 0;
   const HRESULT status = object->Invoke(member, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, result,
                                         &information, &argument);
   if (status == DISP_E_EXCEPTION) throw_exception_info(information);
+  return status;
+}
+
+void invoke(IDispatch* object, DISPID member, WORD flags, DISPPARAMS& parameters, VARIANT* result) {
+  check(try_to_invoke(object, member, flags, parameters, result));
+}
+
+// parameters: the named arguments' identifiers are filled in here where names holds any.
+void invoke(const AutomationObject& holder, Names names, WORD flags, DISPPARAMS& parameters, Result* result) {
+  // Counted: while the call waits, the holder may let go of the object.
+  const AutomationObject held = holder;
+  VARIANT* const answer = result ? result->receive() : nullptr;
+  bool was_known = false;
+  MemberId id = look_up(held, names, was_known);
+  const auto call = [&] {
+    if (names.size() > 1) parameters.rgdispidNamedArgs = id.named_arguments.data();
+    return try_to_invoke(held.dispatch(), id.member, flags, parameters, answer);
+  };
+  HRESULT status = call();
+  if (status == DISP_E_MEMBERNOTFOUND && was_known) {
+    // Nothing has run. The object may number its members in a way of its own.
+    const DISPID refused = std::exchange(id, ask(held.dispatch(), names)).member;
+    if (id.member != refused) status = call();
+  }
   check(status);
+  if (!result || !held.names()) return;
+  // Arguments beyond those of a property go to the default member of what it answers.
+  const bool goes_on = id.answer && parameters.cArgs > static_cast<UINT>(id.parameters);
+  result->set_type(goes_on ? id.answer->element() : id.answer, held.names()->types());
 }
 
 // Named arguments stand before the positional ones, which stand last to first.
 void invoke(const AutomationObject& holder, const wchar_t* name, WORD flags, Arguments arguments,
-            VARIANT* result) {
+            Result* result) {
   if (!holder) throw_runtime_error(runtime_error::object_required);
-  // Counted: while the call waits, the holder may let go of the object.
-  const ComPtr<IDispatch> held(holder.dispatch());
-  IDispatch* object = held.get();
-  if (arguments.size() > max_arguments) throw_hresult(DISP_E_BADPARAMCOUNT);
-  Identifiers identifiers = look_up(object, name, arguments);
+  std::array<const wchar_t*, max_named_arguments + 1> names{name};
   std::array<VARIANT, max_arguments> values;
+  if (arguments.size() > max_arguments) throw_hresult(DISP_E_BADPARAMCOUNT);
   UINT named = 0;
   for (const Argument& argument : arguments) {
-    if (argument.name()) values[named++] = argument.value();
+    if (!argument.name()) continue;
+    values[named++] = argument.value();
+    names[named] = argument.name();
   }
   UINT count = named;
   for (std::size_t i = arguments.size(); i-- > 0;) {
     const Argument& argument = arguments.begin()[i];
     if (!argument.name()) values[count++] = argument.value();
   }
-  DISPPARAMS parameters{values.data(), identifiers.named_arguments.data(), count, named};
-  invoke(object, identifiers.member, flags, parameters, result);
+  DISPPARAMS parameters{values.data(), nullptr, count, named};
+  invoke(holder, Names(names.data(), named + 1), flags, parameters, result);
+}
+
+AutomationObject created(const CLSID& class_id) {
+  forget_earlier_failure();
+  ComPtr<IDispatch> root;
+  check(CoCreateInstance(class_id, nullptr, CLSCTX_SERVER, IID_IDispatch, root.receive_void()));
+  return AutomationObject(root.get());
+}
+
+CLSID class_of(const wchar_t* program_id) {
+  forget_earlier_failure();
+  CLSID class_id;
+  check(CLSIDFromProgID(program_id, &class_id));
+  return class_id;
 }
 
 }  // namespace
 
-AutomationObject AutomationObject::create(const wchar_t* program_id) {
-  forget_earlier_failure();
-  CLSID class_id;
-  check(CLSIDFromProgID(program_id, &class_id));
-  return create(class_id);
-}
+AutomationObject::AutomationObject(IDispatch* object)
+    : AutomationObject(object, std::make_shared<MemberNames>(nullptr)) {}
+
+AutomationObject AutomationObject::create(const wchar_t* program_id) { return create(class_of(program_id)); }
 
 AutomationObject AutomationObject::create(const CLSID& class_id) {
-  forget_earlier_failure();
-  AutomationObject created;
-  check(CoCreateInstance(class_id, nullptr, CLSCTX_SERVER, IID_IDispatch, created.object_.receive_void()));
-  return created;
+  AutomationObject root = created(class_id);
+  if (auto names = PublishedTypes::of_root(root.dispatch())) root.names_ = std::move(names);
+  return root;
+}
+
+AutomationObject AutomationObject::create_untyped(const wchar_t* program_id) {
+  return created(class_of(program_id));
+}
+
+AutomationObject AutomationObject::known_as(const wchar_t* class_name) const {
+  const auto types = names_ ? names_->types() : nullptr;
+  MemberNames* const type = types ? types->type(class_name) : nullptr;
+  return type ? AutomationObject(dispatch(), types->shared(type)) : *this;
 }
 
 const AutomationObject& AutomationObject::typed() const {
@@ -99,8 +149,15 @@ const AutomationObject& AutomationObject::typed() const {
 
 Result AutomationObject::get_with(const wchar_t* name, Arguments arguments) const {
   Result result;
-  invoke(*this, name, DISPATCH_METHOD | DISPATCH_PROPERTYGET, arguments, result.receive());
+  invoke(*this, name, DISPATCH_METHOD | DISPATCH_PROPERTYGET, arguments, &result);
   return result;
+}
+
+Result AutomationObject::get_common(const wchar_t* name) const {
+  const auto types = names_ ? names_->types() : nullptr;
+  const DISPID id = types ? types->common_id(name) : DISPID_UNKNOWN;
+  if (id != DISPID_UNKNOWN) names_->remember(Names(&name, 1), MemberId{id});
+  return get(name);
 }
 
 void AutomationObject::call_with(const wchar_t* name, Arguments arguments) const {
@@ -109,11 +166,21 @@ void AutomationObject::call_with(const wchar_t* name, Arguments arguments) const
 
 void AutomationObject::put(const wchar_t* name, const Argument& value) const {
   if (!object_) throw_runtime_error(runtime_error::object_required);
-  const ComPtr<IDispatch> held(object_);
   VARIANT stored = value.value();
   DISPID property_put = DISPID_PROPERTYPUT;
   DISPPARAMS parameters{&stored, &property_put, 1, 1};
-  invoke(held.get(), look_up(held.get(), name, {}).member, DISPATCH_PROPERTYPUT, parameters, nullptr);
+  invoke(*this, Names(&name, 1), DISPATCH_PROPERTYPUT, parameters, nullptr);
+}
+
+ComPtr<IDispatch> Result::dispatch() const {
+  const VARIANT& value = value_.get();
+  if (V_VT(&value) != VT_DISPATCH && V_VT(&value) != VT_UNKNOWN)
+    throw_runtime_error(runtime_error::object_required);
+  if (!V_UNKNOWN(&value)) return {};
+  if (V_VT(&value) == VT_DISPATCH) return ComPtr<IDispatch>(V_DISPATCH(&value));
+  ComPtr<IDispatch> object;
+  check(V_UNKNOWN(&value)->QueryInterface(IID_IDispatch, object.receive_void()));
+  return object;
 }
 
 AutomationObject Result::object() const {
@@ -123,14 +190,16 @@ AutomationObject Result::object() const {
 }
 
 AutomationObject Result::object_or_nothing() const {
-  const VARIANT& value = value_.get();
-  if (V_VT(&value) != VT_DISPATCH && V_VT(&value) != VT_UNKNOWN)
-    throw_runtime_error(runtime_error::object_required);
-  if (!V_UNKNOWN(&value)) return {};
-  if (V_VT(&value) == VT_DISPATCH) return AutomationObject(V_DISPATCH(&value));
-  ComPtr<IDispatch> object;
-  check(V_UNKNOWN(&value)->QueryInterface(IID_IDispatch, object.receive_void()));
-  return AutomationObject(object.get());
+  const ComPtr<IDispatch> object = dispatch();
+  if (!object) return {};
+  return AutomationObject(object.get(),
+                          type_ ? types_->shared(type_) : std::make_shared<MemberNames>(types_));
+}
+
+AutomationObject Result::passing() const {
+  const ComPtr<IDispatch> object = dispatch();
+  if (!object) throw_runtime_error(runtime_error::object_variable_not_set);
+  return AutomationObject(object.get(), type_ ? types_->shared(type_) : nullptr);
 }
 
 Variant Result::converted_to(VARTYPE type) const {
@@ -148,8 +217,8 @@ Variant Result::converted_to(VARTYPE type) const {
   return converted;
 }
 
-Bstr Result::text() const {
-  VARIANT converted = converted_to(VT_BSTR).release();
+Bstr Result::text() && {
+  VARIANT converted = value_.type() == VT_BSTR ? value_.release() : converted_to(VT_BSTR).release();
   return Bstr::adopt(V_BSTR(&converted));
 }
 
@@ -173,6 +242,9 @@ Enumerator::Enumerator(const AutomationObject& collection) {
   if (FAILED(V_UNKNOWN(&value)->QueryInterface(IID_IEnumVARIANT, elements_.receive_void()))) {
     throw_hresult(DISP_E_NOTACOLLECTION);
   }
+  if (!collection.names()) return;
+  type_ = collection.names()->element();
+  types_ = collection.names()->types();
 }
 
 bool Enumerator::next(Result& element) const {
@@ -182,6 +254,7 @@ bool Enumerator::next(Result& element) const {
   const HRESULT status = elements_->Next(1, following.receive(), &fetched);
   check(status);
   if (status != S_OK || fetched != 1) return false;
+  following.set_type(type_, types_);
   element = std::move(following);
   return true;
 }

@@ -6,10 +6,13 @@
 
 #include <concepts>
 #include <initializer_list>
+#include <memory>
+#include <utility>
 
 #include "ZORBOffice/common/argument.h"
 #include "ZORBOffice/common/bstr.h"
 #include "ZORBOffice/common/com_ptr.h"
+#include "ZORBOffice/common/member_names.h"
 #include "ZORBOffice/common/variant.h"
 
 namespace zorboffice {
@@ -19,16 +22,27 @@ class Result;
 // Arguments are positional unless named; positional ones come first. Every operation throws Failure.
 class AutomationObject {
  public:
-  AutomationObject() = default;  // no object
-  explicit AutomationObject(IDispatch* object) : object_(object) {}
+  AutomationObject() = default;                  // no object
+  explicit AutomationObject(IDispatch* object);  // of an unknown type
 
-  // Creates an object of a class, named by its identifier or by a program identifier. Always a new one.
+  // Creates an object of a class, named by its identifier or by a program identifier. Always a new one. Where
+  // the application publishes its types, the names of all that comes from the object are taken from there.
   static AutomationObject create(const wchar_t* program_id);
   static AutomationObject create(const CLSID& class_id);
+
+  // The same for an application whose objects number their members each by itself, whatever it publishes.
+  static AutomationObject create_untyped(const wchar_t* program_id);
+
+  // This object, known to be of the class of that name in its application's library.
+  AutomationObject known_as(const wchar_t* class_name) const;
 
   // Reads a property, or calls a method and takes its result.
   template <std::convertible_to<Argument>... Arguments>
   Result get(const wchar_t* name, Arguments&&... arguments) const;
+
+  // Reads a property that all types of the application's library number alike, whatever the object's own
+  // type.
+  Result get_common(const wchar_t* name) const;
 
   // Writes a property; the value keeps its variant kind.
   void put(const wchar_t* name, const Argument& value) const;
@@ -51,14 +65,27 @@ class AutomationObject {
   bool operator==(const AutomationObject& other) const { return dispatch() == other.dispatch(); }
   IDispatch* dispatch() const { return object_.get(); }  // not counted
 
-  // This object as a variable that a call gets by reference: the called side may put another object into it.
-  IDispatch** variable() { return object_.receive(); }
+  // This object as a variable that a call gets by reference: the called side may put another object into it,
+  // of whose members nothing is known.
+  IDispatch** variable() {
+    names_.reset();
+    return object_.receive();
+  }
+
+  // What is known of its members; null for nothing, and where nothing is to be kept.
+  const std::shared_ptr<MemberNames>& names() const { return names_; }
 
  private:
+  friend class Result;
+
+  AutomationObject(IDispatch* object, std::shared_ptr<MemberNames> names)
+      : object_(object), names_(std::move(names)) {}
+
   Result get_with(const wchar_t* name, std::initializer_list<Argument> arguments) const;
   void call_with(const wchar_t* name, std::initializer_list<Argument> arguments) const;
 
   ComPtr<IDispatch> object_;
+  std::shared_ptr<MemberNames> names_;
 };
 
 // What a get returned.
@@ -74,8 +101,9 @@ class Result {
   // The same, where Nothing gives no object.
   AutomationObject object_or_nothing() const;
 
-  // The value, converted as the platform converts; an object's is its default property.
-  Bstr text() const;
+  // The value, converted as the platform converts; an object's is its default property. A text is handed
+  // over.
+  Bstr text() &&;
   LONG int32() const;
   SHORT int16() const;
   float single() const;
@@ -85,21 +113,35 @@ class Result {
   // Chains go on without a step between.
   template <class... Arguments>
   Result get(const wchar_t* name, Arguments&&... arguments) const {
-    return object().get(name, arguments...);
+    return passing().get(name, arguments...);
   }
   template <class... Arguments>
   void call(const wchar_t* name, Arguments&&... arguments) const {
-    object().call(name, arguments...);
+    passing().call(name, arguments...);
   }
-  void put(const wchar_t* name, const Argument& value) const { object().put(name, value); }
+  void put(const wchar_t* name, const Argument& value) const { passing().put(name, value); }
 
   const VARIANT& value() const { return value_.get(); }
   VARIANT* receive() { return value_.receive(); }
 
+  // Says what is known of an object in it: its type, null for none, of the session's types.
+  void set_type(MemberNames* type, std::shared_ptr<PublishedTypes> types) {
+    type_ = type;
+    types_ = std::move(types);
+  }
+
  private:
   Variant converted_to(VARTYPE type) const;
 
+  // Counted, and null for Nothing; "Object required" where it holds none.
+  ComPtr<IDispatch> dispatch() const;
+
+  // The object for one step only: what it says of its members is not kept.
+  AutomationObject passing() const;
+
   Variant value_;
+  MemberNames* type_ = nullptr;
+  std::shared_ptr<PublishedTypes> types_;
 };
 
 // Walks a collection as For Each does, one element a step.
@@ -113,6 +155,8 @@ class Enumerator {
 
  private:
   ComPtr<IEnumVARIANT> elements_;
+  MemberNames* type_ = nullptr;  // of the elements
+  std::shared_ptr<PublishedTypes> types_;
 };
 
 template <std::convertible_to<Argument>... Arguments>

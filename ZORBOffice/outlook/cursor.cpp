@@ -6,7 +6,7 @@ namespace {
 
 // By name: early-bound item interfaces fail on machines whose office type library is damaged.
 bool is_of_class(const EntryTypeRow& type, const AutomationObject& item) {
-  return item.get(L"Class").int32() == type.item_class;
+  return item.get_common(L"Class").int32() == type.item_class;
 }
 
 }  // namespace
@@ -81,7 +81,7 @@ HRESULT ZORBOutlook::OpenItem(BSTR EntryType, VARIANT_BOOL* result) noexcept {
 
 bool ZORBOutlook::make_current(const EntryTypeRow& type, const AutomationObject& item) {
   if (!is_of_class(type, item)) return false;
-  state_.*type.current_item = item;
+  state_.*type.current_item = item.known_as(type.item_name);
   return true;
 }
 

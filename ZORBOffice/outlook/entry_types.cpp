@@ -13,11 +13,12 @@ using State = OutlookState;
 // olAppointment 26, olContact 40, olMail 43, olNote 44, olTask 48. Types: olMailItem 0, olAppointmentItem 1,
 // olContactItem 2, olTaskItem 3, olNoteItem 5.
 constexpr EntryTypeRow rows[] = {
-    {L"Appointment", 9, L"[Start]", &State::AppointmentItems, &State::CurrentAppointment, 26, 1},
-    {L"Contact", 10, L"[FullName]", &State::ContactItems, &State::CurrentContact, 40, 2},
-    {L"Note", 12, L"[Subject]", &State::NoteItems, &State::CurrentNote, 44, 5},
-    {L"Task", 13, L"[DueDate]", &State::TaskItems, &State::CurrentTask, 48, 3},
-    {L"Email", 6, L"[CreationTime]", &State::EmailItems, &State::CurrentEmail, 43, 0},
+    {L"Appointment", 9, L"[Start]", &State::AppointmentItems, &State::CurrentAppointment, 26, 1,
+     L"AppointmentItem"},
+    {L"Contact", 10, L"[FullName]", &State::ContactItems, &State::CurrentContact, 40, 2, L"ContactItem"},
+    {L"Note", 12, L"[Subject]", &State::NoteItems, &State::CurrentNote, 44, 5, L"NoteItem"},
+    {L"Task", 13, L"[DueDate]", &State::TaskItems, &State::CurrentTask, 48, 3, L"TaskItem"},
+    {L"Email", 6, L"[CreationTime]", &State::EmailItems, &State::CurrentEmail, 43, 0, L"MailItem"},
     {L"Sent Items", 5, L"[CreationTime]", &State::EmailItems},
     {L"Deleted Appointment", 3, nullptr, &State::AppointmentItems},
     {L"Deleted Contact", 3, nullptr, &State::ContactItems},

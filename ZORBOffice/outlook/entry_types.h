@@ -17,6 +17,7 @@ struct EntryTypeRow {
   AutomationObject OutlookState::*current_item = nullptr;  // null: a word for filling the collection only
   LONG item_class = 0;                                     // an OlObjectClass value
   LONG item_type = 0;                                      // an OlItemType value
+  const wchar_t* item_name = nullptr;                      // the items' class in Outlook's type library
 };
 
 // The row of an entry type, compared exactly; null where there is none.

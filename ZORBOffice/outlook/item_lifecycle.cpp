@@ -15,7 +15,8 @@ bool is_inline(const AutomationObject& mail, const Result& attachment) {
 
 HRESULT ZORBOutlook::CreateItem(BSTR EntryType, VARIANT_BOOL* result) noexcept {
   return for_entry_type(EntryType, L"Create Item", result, stored(), [&](const EntryTypeRow& type) {
-    state_.*type.current_item = application().get(L"CreateItem", type.item_type).object();
+    const AutomationObject created = application().get(L"CreateItem", type.item_type).object();
+    state_.*type.current_item = created.known_as(type.item_name);
     return true;
   });
 }

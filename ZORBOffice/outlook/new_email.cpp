@@ -50,7 +50,7 @@ HRESULT ZORBOutlook::NewEmail(BSTR*, BSTR* ToAddress, BSTR* CCAddress, BSTR* BCC
     AutomationObject mail;
     step([&] { application = AutomationObject::create(L"Outlook.Application"); });
     step([&] { session = application.get(L"GetNamespace", Bstr(L"MAPI")).object(); });
-    step([&] { mail = application.get(L"CreateItem", mail_item).object(); });
+    step([&] { mail = application.get(L"CreateItem", mail_item).object().known_as(L"MailItem"); });
 
     const auto put = [&](const wchar_t* name, BSTR* value) {
       mail.typed().put(name, Argument::text(dereferenced(value)));

@@ -29,7 +29,7 @@ class NoLoadArguments {
 
 HRESULT OpenWriter::get_Start(VARIANT_BOOL* Template, BYTE* result) noexcept {
   return trapped(result, both(message(L"Start "), message(L"")), [&] {
-    const AutomationObject manager = AutomationObject::create(L"com.sun.star.ServiceManager");
+    const AutomationObject manager = AutomationObject::create_untyped(L"com.sun.star.ServiceManager");
     const auto service = [&](const wchar_t* name) { return manager.get(L"createInstance", Bstr(name)); };
     application_ = manager;
     // No member needs it: a suite without one does as well.

@@ -1,0 +1,116 @@
+#include "ZORBOffice/common/member_names.h"
+
+#include <algorithm>
+#include <optional>
+
+#include "ZORBOffice/common/bstr.h"
+#include "ZORBOffice/common/type_descriptions.h"
+
+namespace zorboffice {
+namespace {
+
+// FNV-1a: names are short, and few a type.
+std::uint32_t hash_of(const wchar_t* name) {
+  std::uint32_t hash = 2166136261U;
+  for (; *name; ++name) hash = (hash ^ *name) * 16777619U;
+  return hash;
+}
+
+// A library that is registered for a running application may be another version's, or damaged: the root
+// object itself has to give this name the library's number.
+bool is_confirmed_by(IDispatch* root, ITypeInfo* type) {
+  Bstr name;
+  UINT count = 0;
+  DISPID published = DISPID_UNKNOWN;
+  DISPID own = DISPID_UNKNOWN;
+  if (!first_member(type, published)) return false;
+  if (FAILED(type->GetNames(published, name.receive(), 1, &count)) || count != 1) return false;
+  LPOLESTR asked = name.get();
+  return SUCCEEDED(root->GetIDsOfNames(IID_NULL, &asked, 1, LOCALE_USER_DEFAULT, &own)) && own == published;
+}
+
+}  // namespace
+
+const MemberId* MemberNames::find(Names names) {
+  const std::uint32_t hash = hash_of(names[0]);
+  for (const Entry& entry : entries_) {
+    if (entry.hash == hash && entry.name_count == names.size() && entry.name == names[0]) return &entry.id;
+  }
+  return type_ ? published(names) : nullptr;
+}
+
+void MemberNames::remember(Names names, const MemberId& id) {
+  // One object's number is not its type's.
+  if (!type_) add(names, id);
+}
+
+MemberNames* MemberNames::element() {
+  if (!type_) return nullptr;
+  if (!element_) {
+    const MemberDescription member = describe_member(type_.get(), DISPID_VALUE);
+    element_ = member.answer ? owner_->type(member.answer) : nullptr;
+  }
+  return *element_;
+}
+
+std::shared_ptr<PublishedTypes> MemberNames::types() const {
+  return owner_ ? owner_->shared_from_this() : types_;
+}
+
+const MemberId* MemberNames::published(Names names) {
+  std::array<DISPID, max_named_arguments + 1> ids{};
+  if (FAILED(type_->GetIDsOfNames(const_cast<LPOLESTR*>(names.data()), static_cast<UINT>(names.size()),
+                                  ids.data()))) {
+    return nullptr;
+  }
+  const MemberDescription member = describe_member(type_.get(), ids[0]);
+  MemberId id{ids[0], {}, member.parameters, member.answer ? owner_->type(member.answer) : nullptr};
+  std::copy(ids.begin() + 1, ids.end(), id.named_arguments.begin());
+  return add(names, id);
+}
+
+const MemberId* MemberNames::add(Names names, const MemberId& id) {
+  entries_.push_back({hash_of(names[0]), static_cast<UINT>(names.size()), names[0], id});
+  return &entries_.back().id;
+}
+
+std::shared_ptr<MemberNames> PublishedTypes::of_root(IDispatch* root) {
+  ComPtr<ITypeInfo> own;
+  if (FAILED(root->GetTypeInfo(0, LOCALE_USER_DEFAULT, own.receive())) || !own) return {};
+  const std::optional<GUID> id = type_id(own.get());
+  const ComPtr<ITypeLib> library = registered_library(own.get());
+  ComPtr<ITypeInfo> type;
+  if (!id || !library || FAILED(library->GetTypeInfoOfGuid(*id, type.receive()))) return {};
+  type = dispatch_type(type);
+  if (!type || !is_confirmed_by(root, type.get())) return {};
+  const auto types = std::make_shared<PublishedTypes>(library);
+  return types->shared(types->type(type));
+}
+
+MemberNames* PublishedTypes::type(ComPtr<ITypeInfo> information) {
+  const ComPtr<ITypeInfo> dispatch = dispatch_type(information);
+  const std::optional<GUID> id = dispatch ? type_id(dispatch.get()) : std::nullopt;
+  if (!id) return nullptr;
+  for (const auto& known : types_) {
+    if (known->type_id() == *id) return known.get();
+  }
+  types_.push_back(std::make_unique<MemberNames>(dispatch, *id, *this));
+  return types_.back().get();
+}
+
+MemberNames* PublishedTypes::type(const wchar_t* name) {
+  const auto known = std::ranges::find(named_, std::wstring_view(name), &Named::name);
+  if (known != named_.end()) return known->type;
+  const ComPtr<ITypeInfo> found = find_type(library_.get(), name);
+  named_.push_back({name, found ? type(found) : nullptr});
+  return named_.back().type;
+}
+
+DISPID PublishedTypes::common_id(const wchar_t* name) {
+  const auto known = std::ranges::find(common_, std::wstring_view(name), &Common::name);
+  if (known != common_.end()) return known->id;
+  common_.push_back({name, common_member_id(library_.get(), name)});
+  return common_.back().id;
+}
+
+}  // namespace zorboffice

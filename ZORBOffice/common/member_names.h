@@ -1,0 +1,121 @@
+// The dispatch identifiers of an object's members, so that no name is looked up twice.
+#pragma once
+
+#include <windows.h>
+#include <oaidl.h>
+
+#include <array>
+#include <cstdint>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "ZORBOffice/common/com_ptr.h"
+
+namespace zorboffice {
+
+class MemberNames;
+class PublishedTypes;
+
+inline constexpr std::size_t max_named_arguments = 2;
+
+// A member's name, and behind it the names of the arguments that a call names.
+using Names = std::span<const wchar_t* const>;
+
+struct MemberId {
+  DISPID member = DISPID_UNKNOWN;
+  std::array<DISPID, max_named_arguments> named_arguments{};
+  // What the member is declared to take and to answer; no type where that may be any object.
+  SHORT parameters = 0;
+  MemberNames* answer = nullptr;
+};
+
+// What is known of the members of one object, or of all objects of one published type. Objects number their
+// names as they like: what one object said holds for that object, and what a type library publishes holds for
+// the objects that it is declared for.
+class MemberNames {
+ public:
+  // Of one object, whose type is not known. types: of the session that it came from; may be null.
+  explicit MemberNames(std::shared_ptr<PublishedTypes> types) : types_(std::move(types)) {}
+
+  // Of all objects of a type, which belongs to types.
+  MemberNames(ComPtr<ITypeInfo> type, const GUID& id, PublishedTypes& types)
+      : type_(std::move(type)), type_id_(id), owner_(&types) {}
+
+  // Returns what is known without asking the object, null for nothing.
+  const MemberId* find(Names names);
+
+  // Keeps what an object said of itself.
+  void remember(Names names, const MemberId& id);
+
+  // The type of a collection's elements: what its default member is declared to answer. Null for any object.
+  MemberNames* element();
+
+  // The published types of the session, null where the application publishes none.
+  std::shared_ptr<PublishedTypes> types() const;
+
+  const GUID& type_id() const { return type_id_; }
+
+ private:
+  struct Entry {
+    std::uint32_t hash;
+    UINT name_count;
+    std::wstring name;
+    MemberId id;
+  };
+
+  const MemberId* published(Names names);
+  const MemberId* add(Names names, const MemberId& id);
+
+  ComPtr<ITypeInfo> type_;
+  GUID type_id_{};
+  PublishedTypes* owner_ = nullptr;        // of a type
+  std::shared_ptr<PublishedTypes> types_;  // of one object
+  std::vector<Entry> entries_;
+  std::optional<MemberNames*> element_;
+};
+
+// The types that an application publishes, for one session: from the creation of its root object until
+// nothing that came from it is held any more. An application that was started again is asked again.
+class PublishedTypes : public std::enable_shared_from_this<PublishedTypes> {
+ public:
+  explicit PublishedTypes(ComPtr<ITypeLib> library) : library_(std::move(library)) {}
+
+  // Asks a root object for its type library, loads that in this process, and returns the root's names. Null
+  // where the object publishes none, where it cannot be loaded, or where it does not say what the object
+  // says.
+  static std::shared_ptr<MemberNames> of_root(IDispatch* root);
+
+  // The names of a type, null where it is not for automation.
+  MemberNames* type(ComPtr<ITypeInfo> information);
+
+  // The names of the class or interface of that name; null where the library has none.
+  MemberNames* type(const wchar_t* name);
+
+  // The identifier of a name for which all types that have it have the same; DISPID_UNKNOWN where they
+  // differ.
+  DISPID common_id(const wchar_t* name);
+
+  // The names of a type, which keep the session's types alive.
+  std::shared_ptr<MemberNames> shared(MemberNames* type) { return {shared_from_this(), type}; }
+
+ private:
+  struct Named {
+    std::wstring name;
+    MemberNames* type;
+  };
+  struct Common {
+    std::wstring name;
+    DISPID id;
+  };
+
+  ComPtr<ITypeLib> library_;
+  std::vector<std::unique_ptr<MemberNames>> types_;
+  std::vector<Named> named_;
+  std::vector<Common> common_;
+};
+
+}  // namespace zorboffice
