@@ -93,6 +93,7 @@ void invoke(const AutomationObject& holder, const wchar_t* name, WORD flags, Arg
   UINT named = 0;
   for (const Argument& argument : arguments) {
     if (!argument.name()) continue;
+    if (named == max_named_arguments) throw_hresult(DISP_E_BADPARAMCOUNT);
     values[named++] = argument.value();
     names[named] = argument.name();
   }

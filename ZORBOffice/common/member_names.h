@@ -20,7 +20,7 @@ namespace zorboffice {
 class MemberNames;
 class PublishedTypes;
 
-inline constexpr std::size_t max_named_arguments = 2;
+inline constexpr std::size_t max_named_arguments = 3;
 
 // A member's name, and behind it the names of the arguments that a call names.
 using Names = std::span<const wchar_t* const>;
