@@ -74,6 +74,7 @@ void invoke(const AutomationObject& holder, Names names, WORD flags, DISPPARAMS&
   if (status == DISP_E_MEMBERNOTFOUND && was_known) {
     // Nothing has run. The object may number its members in a way of its own.
     const DISPID refused = std::exchange(id, ask(held.dispatch(), names)).member;
+    held.names()->remember(names, id);
     if (id.member != refused) status = call();
   }
   check(status);
@@ -123,13 +124,15 @@ CLSID class_of(const wchar_t* program_id) {
 }  // namespace
 
 AutomationObject::AutomationObject(IDispatch* object)
-    : AutomationObject(object, std::make_shared<MemberNames>(nullptr)) {}
+    : AutomationObject(object, std::make_shared<MemberNames>(nullptr, nullptr)) {}
 
 AutomationObject AutomationObject::create(const wchar_t* program_id) { return create(class_of(program_id)); }
 
 AutomationObject AutomationObject::create(const CLSID& class_id) {
   AutomationObject root = created(class_id);
-  if (auto names = PublishedTypes::of_root(root.dispatch())) root.names_ = std::move(names);
+  if (const auto type = PublishedTypes::of_root(root.dispatch(), *root.names_)) {
+    root.names_ = std::make_shared<MemberNames>(type->types(), type.get());
+  }
   return root;
 }
 
@@ -140,7 +143,7 @@ AutomationObject AutomationObject::create_untyped(const wchar_t* program_id) {
 AutomationObject AutomationObject::known_as(const wchar_t* class_name) const {
   const auto types = names_ ? names_->types() : nullptr;
   MemberNames* const type = types ? types->type(class_name) : nullptr;
-  return type ? AutomationObject(dispatch(), types->shared(type)) : *this;
+  return type ? AutomationObject(dispatch(), std::make_shared<MemberNames>(types, type)) : *this;
 }
 
 const AutomationObject& AutomationObject::typed() const {
@@ -193,8 +196,7 @@ AutomationObject Result::object() const {
 AutomationObject Result::object_or_nothing() const {
   const ComPtr<IDispatch> object = dispatch();
   if (!object) return {};
-  return AutomationObject(object.get(),
-                          type_ ? types_->shared(type_) : std::make_shared<MemberNames>(types_));
+  return AutomationObject(object.get(), std::make_shared<MemberNames>(types_, type_));
 }
 
 AutomationObject Result::passing() const {

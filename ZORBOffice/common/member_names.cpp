@@ -17,8 +17,8 @@ std::uint32_t hash_of(const wchar_t* name) {
 }
 
 // A library that is registered for a running application may be another version's, or damaged: the root
-// object itself has to give this name the library's number.
-bool is_confirmed_by(IDispatch* root, ITypeInfo* type) {
+// object itself has to give this name the library's number. What it says is kept.
+bool is_confirmed_by(IDispatch* root, MemberNames& root_names, ITypeInfo* type) {
   Bstr name;
   UINT count = 0;
   DISPID published = DISPID_UNKNOWN;
@@ -26,31 +26,45 @@ bool is_confirmed_by(IDispatch* root, ITypeInfo* type) {
   if (!first_member(type, published)) return false;
   if (FAILED(type->GetNames(published, name.receive(), 1, &count)) || count != 1) return false;
   LPOLESTR asked = name.get();
-  return SUCCEEDED(root->GetIDsOfNames(IID_NULL, &asked, 1, LOCALE_USER_DEFAULT, &own)) && own == published;
+  if (FAILED(root->GetIDsOfNames(IID_NULL, &asked, 1, LOCALE_USER_DEFAULT, &own))) return false;
+  const wchar_t* const names[] = {asked};
+  if (own != published) root_names.remember(names, MemberId{own});
+  return own == published;
 }
 
 }  // namespace
 
 const MemberId* MemberNames::find(Names names) {
-  const std::uint32_t hash = hash_of(names[0]);
-  for (const Entry& entry : entries_) {
-    if (entry.hash == hash && entry.name_count == names.size() && entry.name == names[0]) return &entry.id;
-  }
-  return type_ ? published(names) : nullptr;
+  if (const Entry* entry = known(names)) return &entry->id;
+  if (type_) return published(names);
+  return declared_ ? declared_->find(names) : nullptr;
 }
 
 void MemberNames::remember(Names names, const MemberId& id) {
-  // One object's number is not its type's.
-  if (!type_) add(names, id);
+  if (type_) return;
+  if (Entry* entry = known(names)) {
+    entry->id = id;
+  } else {
+    add(names, id);
+  }
 }
 
 MemberNames* MemberNames::element() {
+  if (declared_) return declared_->element();
   if (!type_) return nullptr;
   if (!element_) {
     const MemberDescription member = describe_member(type_.get(), DISPID_VALUE);
     element_ = member.answer ? owner_->type(member.answer) : nullptr;
   }
   return *element_;
+}
+
+MemberNames::Entry* MemberNames::known(Names names) {
+  const std::uint32_t hash = hash_of(names[0]);
+  for (Entry& entry : entries_) {
+    if (entry.hash == hash && entry.name_count == names.size() && entry.name == names[0]) return &entry;
+  }
+  return nullptr;
 }
 
 std::shared_ptr<PublishedTypes> MemberNames::types() const {
@@ -74,7 +88,7 @@ const MemberId* MemberNames::add(Names names, const MemberId& id) {
   return &entries_.back().id;
 }
 
-std::shared_ptr<MemberNames> PublishedTypes::of_root(IDispatch* root) {
+std::shared_ptr<MemberNames> PublishedTypes::of_root(IDispatch* root, MemberNames& root_names) {
   ComPtr<ITypeInfo> own;
   if (FAILED(root->GetTypeInfo(0, LOCALE_USER_DEFAULT, own.receive())) || !own) return {};
   const std::optional<GUID> id = type_id(own.get());
@@ -82,7 +96,7 @@ std::shared_ptr<MemberNames> PublishedTypes::of_root(IDispatch* root) {
   ComPtr<ITypeInfo> type;
   if (!id || !library || FAILED(library->GetTypeInfoOfGuid(*id, type.receive()))) return {};
   type = dispatch_type(type);
-  if (!type || !is_confirmed_by(root, type.get())) return {};
+  if (!type || !is_confirmed_by(root, root_names, type.get())) return {};
   const auto types = std::make_shared<PublishedTypes>(library);
   return types->shared(types->type(type));
 }

@@ -38,8 +38,9 @@ struct MemberId {
 // the objects that it is declared for.
 class MemberNames {
  public:
-  // Of one object, whose type is not known. types: of the session that it came from; may be null.
-  explicit MemberNames(std::shared_ptr<PublishedTypes> types) : types_(std::move(types)) {}
+  // Of one object. type: what it is declared as, null for any object; types: the session's, may be null.
+  MemberNames(std::shared_ptr<PublishedTypes> types, MemberNames* type)
+      : types_(std::move(types)), declared_(type) {}
 
   // Of all objects of a type, which belongs to types.
   MemberNames(ComPtr<ITypeInfo> type, const GUID& id, PublishedTypes& types)
@@ -48,7 +49,7 @@ class MemberNames {
   // Returns what is known without asking the object, null for nothing.
   const MemberId* find(Names names);
 
-  // Keeps what an object said of itself.
+  // Keeps what an object said of itself; nothing is kept of a type.
   void remember(Names names, const MemberId& id);
 
   // The type of a collection's elements: what its default member is declared to answer. Null for any object.
@@ -67,13 +68,15 @@ class MemberNames {
     MemberId id;
   };
 
+  Entry* known(Names names);
   const MemberId* published(Names names);
   const MemberId* add(Names names, const MemberId& id);
 
   ComPtr<ITypeInfo> type_;
   GUID type_id_{};
-  PublishedTypes* owner_ = nullptr;        // of a type
-  std::shared_ptr<PublishedTypes> types_;  // of one object
+  PublishedTypes* owner_ = nullptr;  // of a type
+  std::shared_ptr<PublishedTypes> types_;
+  MemberNames* declared_ = nullptr;  // of one object, as is types_
   std::vector<Entry> entries_;
   std::optional<MemberNames*> element_;
 };
@@ -84,10 +87,10 @@ class PublishedTypes : public std::enable_shared_from_this<PublishedTypes> {
  public:
   explicit PublishedTypes(ComPtr<ITypeLib> library) : library_(std::move(library)) {}
 
-  // Asks a root object for its type library, loads that in this process, and returns the root's names. Null
-  // where the object publishes none, where it cannot be loaded, or where it does not say what the object
-  // says.
-  static std::shared_ptr<MemberNames> of_root(IDispatch* root);
+  // Asks a root object for its type library, loads that in this process, and returns the root's type. Null
+  // where the object publishes none, where it cannot be loaded, or where it does not say what the object says,
+  // which root_names keeps.
+  static std::shared_ptr<MemberNames> of_root(IDispatch* root, MemberNames& root_names);
 
   // The names of a type, null where it is not for automation.
   MemberNames* type(ComPtr<ITypeInfo> information);
@@ -99,7 +102,7 @@ class PublishedTypes : public std::enable_shared_from_this<PublishedTypes> {
   // differ.
   DISPID common_id(const wchar_t* name);
 
-  // The names of a type, which keep the session's types alive.
+  // A type's names, which keep the session's types alive.
   std::shared_ptr<MemberNames> shared(MemberNames* type) { return {shared_from_this(), type}; }
 
  private:

@@ -5,26 +5,10 @@
 
 #include <algorithm>
 
+#include "office_model.h"
 #include "text.h"
 
 namespace {
-
-// One list of names for all objects: equal names have equal identifiers, which start at 1.
-std::vector<std::wstring> names;
-
-DISPID identifier_of(const std::wstring& name) {
-  if (name == L"_NewEnum") return DISPID_NEWENUM;
-  const auto found = std::ranges::find(names, name);
-  const auto identifier = static_cast<DISPID>(found - names.begin()) + 1;
-  if (found == names.end()) names.push_back(name);
-  return identifier;
-}
-
-std::string name_of(DISPID identifier) {
-  if (identifier == DISPID_VALUE) return "[value]";
-  if (identifier == DISPID_NEWENUM) return "[newenum]";
-  return utf8(names.at(identifier - 1));
-}
 
 const std::map<WORD, const char*> invocations = {{DISPATCH_METHOD | DISPATCH_PROPERTYGET, "get "},
                                                  {DISPATCH_METHOD, "call "},
@@ -88,14 +72,15 @@ class Recorded : public Interface {
 
 class FakeEnumerator final : public Recorded<IEnumVARIANT> {
  public:
-  FakeEnumerator(FakeOffice& office, const std::string& name, std::vector<const char*> items)
-      : Recorded(office, name), items_(std::move(items)) {}
+  FakeEnumerator(FakeOffice& office, const std::string& name, const std::string& element,
+                 std::vector<const char*> items)
+      : Recorded(office, name), element_(element), items_(std::move(items)) {}
 
   HRESULT WINAPI Next(ULONG count, VARIANT* values, ULONG* fetched) override {
     if (const HRESULT failed = office_.step("next " + name_); FAILED(failed)) return failed;
     ULONG given = 0;
     for (; given < count && position_ < items_.size(); ++given)
-      values[given] = _variant_t(office_.make(items_[position_++]), false).Detach();
+      values[given] = _variant_t(office_.make(items_[position_++], element_), false).Detach();
     if (fetched) *fetched = given;
     return given == count ? S_OK : S_FALSE;
   }
@@ -104,31 +89,56 @@ class FakeEnumerator final : public Recorded<IEnumVARIANT> {
   HRESULT WINAPI Clone(IEnumVARIANT**) override { return E_NOTIMPL; }
 
  private:
+  const std::string element_;
   const std::vector<const char*> items_;
   size_t position_ = 0;
 };
 
 class FakeObject final : public Recorded<IDispatch> {
  public:
-  using Recorded::Recorded;
+  FakeObject(FakeOffice& office, const std::string& name, const std::string& type)
+      : Recorded(office, name), type_(type) {
+    static int made = 0;
+    const bool by_type = office_kind() == Office::published || office_kind() == Office::unloadable;
+    if (office_kind() != Office::plain) shift_ = shift_of(by_type ? type_ : std::to_string(++made));
+    // The first name tells a library that is not the object's own.
+    if (office_kind() == Office::stale && shift_ == shift_of(type_)) ++shift_;
+  }
 
   HRESULT WINAPI GetTypeInfoCount(UINT* count) override {
     const auto refused = office_.refused.find(name_);
     *count = 0;
     return refused == office_.refused.end() ? S_OK : refused->second;
   }
-  HRESULT WINAPI GetTypeInfo(UINT, LCID, ITypeInfo**) override { return E_NOTIMPL; }
+  HRESULT WINAPI GetTypeInfo(UINT, LCID, ITypeInfo** information) override {
+    *information = published().Detach();
+    return *information ? S_OK : E_NOTIMPL;
+  }
   HRESULT WINAPI GetIDsOfNames(REFIID iid, LPOLESTR* asked, UINT count, LCID, DISPID* identifiers) override {
     if (iid != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
-    for (UINT i = 0; i < count; ++i) identifiers[i] = identifier_of(asked[i]);
-    const auto refused = office_.refused.find(name_ + "." + utf8(asked[0]));
-    if (refused == office_.refused.end()) return S_OK;
+    const auto name = utf8(asked[0]);
+    // The first name is what a session's root object is asked, to see whether the library is its own.
+    const bool is_first = name == model_names().front() || refused_.contains(name);
+    if (office_kind() == Office::published && !is_first)
+      EXPECT_FALSE(published()) << name_ << " was asked for " << name;
+    identifiers[0] = name == "_NewEnum" ? DISPID_NEWENUM : model_identifier(name, shift_);
+    for (UINT i = 1; i < count; ++i) identifiers[i] = argument_identifier(name, utf8(asked[i]));
+    const auto refused = office_.refused.find(name_ + "." + name);
+    if (refused == office_.refused.end()) {
+      // The one Global object of the process is called from every apartment: each call learns its names.
+      EXPECT_TRUE(asked_.insert(name).second || type_ == "Global")
+          << name_ << " was asked twice for " << name;
+      return S_OK;
+    }
     identifiers[0] = DISPID_UNKNOWN;
     return refused->second;
   }
   HRESULT WINAPI Invoke(DISPID member, REFIID, LCID, WORD flags, DISPPARAMS* parameters, VARIANT* result,
                         EXCEPINFO* info, UINT*) override {
     const std::string own_name = name_of(member), path = name_ + "." + own_name;
+    EXPECT_NE(own_name, "") << name_ << " was called by another object's number";
+    if (const auto refused = office_.refused.find(path); refused != office_.refused.end())
+      return refused->second;
     std::string arguments, put_value;
     const auto add = [&](const std::string& text) { arguments += (arguments.empty() ? "(" : ", ") + text; };
     // Named arguments come first in the array, positional ones after them from the last to the first.
@@ -138,7 +148,7 @@ class FakeObject final : public Recorded<IDispatch> {
       const DISPID name = parameters->rgdispidNamedArgs[i];
       const std::string value = "=" + describe(parameters->rgvarg[i]);
       if (name == DISPID_PROPERTYPUT) put_value = value;
-      if (name != DISPID_PROPERTYPUT) add(name_of(name) + ":" + value);
+      if (name != DISPID_PROPERTYPUT) add(argument_name(own_name, name) + ":" + value);
     }
     if (!arguments.empty()) arguments += ")";
     const auto& known = office_.answers;
@@ -149,22 +159,68 @@ class FakeObject final : public Recorded<IDispatch> {
       answer.object = own_name.c_str();
 
     const std::string line = known_as(invocations, flags) + path + arguments + put_value;
-    if (const HRESULT failed = office_.step(line, info); FAILED(failed)) return failed;
+    if (const HRESULT failed = office_.step(line, info); FAILED(failed)) {
+      if (failed == DISP_E_MEMBERNOTFOUND) asked_.erase(own_name), refused_.insert(own_name);
+      return failed;
+    }
     if (answer.effect) answer.effect(*parameters);
     if (office_.writes) change(*parameters);
     if (!result) return S_OK;
     _variant_t given = answer.value;
-    if (answer.object) given = _variant_t(office_.make(answer.object), false);
+    if (answer.object) {
+      const auto made = declared_answer(type_, own_name + arguments, 0);
+      const auto declared = declared_answer(type_, own_name, parameters->cArgs);
+      given = _variant_t(office_.make(answer.object, made.empty() ? declared : made), false);
+    }
     if (member == DISPID_NEWENUM)
-      given = _variant_t(static_cast<IUnknown*>(new FakeEnumerator(office_, name_, answer.items)), false);
+      given = _variant_t(static_cast<IUnknown*>(new FakeEnumerator(
+                             office_, name_, declared_answer(type_, "[value]", 1), answer.items)),
+                         false);
     *result = given.Detach();
     return S_OK;
   }
+
+ private:
+  std::string name_of(DISPID identifier) const {
+    if (identifier == DISPID_VALUE) return "[value]";
+    if (identifier == DISPID_NEWENUM) return "[newenum]";
+    return model_name(identifier, shift_);
+  }
+  Microsoft::WRL::ComPtr<ITypeInfo> published() const {
+    return office_.publishes ? published_type(type_) : nullptr;
+  }
+  // A published type numbers a member's arguments by their places.
+  bool numbers_places(const std::string& member) const {
+    return published() && !argument_names(member).empty();
+  }
+  DISPID argument_identifier(const std::string& member, const std::string& name) const {
+    const auto& names = argument_names(member);
+    if (!numbers_places(member)) return model_identifier(name, shift_);
+    return static_cast<DISPID>(std::ranges::find(names, name) - names.begin());
+  }
+  std::string argument_name(const std::string& member, DISPID identifier) const {
+    return numbers_places(member) ? argument_names(member).at(identifier) : model_name(identifier, shift_);
+  }
+
+  const std::string type_;
+  int shift_ = 0;
+  std::set<std::string> asked_, refused_;  // names
 };
+
+// The type of an object that is declared as any: an item's by its class, otherwise its own.
+std::string type_of(const FakeOffice& office, const std::string& name) {
+  static const std::map<long, const char*> items = {
+      {26, "AppointmentItem"}, {40, "ContactItem"}, {43, "MailItem"}, {44, "NoteItem"}, {48, "TaskItem"}};
+  const auto answer = office.answers.find(name + ".Class");
+  const auto item = answer == office.answers.end() ? items.end() : items.find(answer->second.value);
+  return item == items.end() ? name : item->second;
+}
 
 }  // namespace
 
-IDispatch* FakeOffice::make(const std::string& name) { return new FakeObject(*this, name); }
+IDispatch* FakeOffice::make(const std::string& name, const std::string& type) {
+  return new FakeObject(*this, name, type.empty() ? type_of(*this, name) : type);
+}
 
 HRESULT FakeOffice::step(const std::string& line, EXCEPINFO* info) {
   EXPECT_EQ(GetCurrentThreadId(), apartment) << line;

@@ -39,7 +39,7 @@ class FakeOffice {
   std::set<std::string> objects;
   // Other answers by "Object.Member(arguments as logged)" or, for any arguments, "Object.Member".
   std::map<std::string, Answer> answers;
-  // The members, as "Object.Member", whose names are not found, with what the look-up returns; and the
+  // The members, as "Object.Member", that are not there, with what a look-up or a call returns; and the
   // objects whose process does not answer, with what a call returns that asks nothing of them.
   std::map<std::string, HRESULT> refused;
   // The step that fails with `failure`, counted in lines of the log from 1; 0 for none.
@@ -54,8 +54,11 @@ class FakeOffice {
   // The one thread that may call them.
   const DWORD apartment = GetCurrentThreadId();
 
-  // A new object called `name`; the caller owns the reference.
-  IDispatch* make(const std::string& name);
+  // Whether its objects have the types that the process's type library publishes.
+  bool publishes = true;
+
+  // A new object called `name` of the type that is published for it; the caller owns the reference.
+  IDispatch* make(const std::string& name, const std::string& type = "");
   // Logs `line`; returns S_OK, or the failure that is due, described in `info` where there is one.
   HRESULT step(const std::string& line, EXCEPINFO* info = nullptr);
 };

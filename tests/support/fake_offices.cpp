@@ -104,6 +104,7 @@ FakeSuite::FakeSuite(bool named)
     : manager_(*this, manager_id, "com.sun.star.ServiceManager", "Application", named),
       global_(*this, global_id, "Global", "Global", false) {
   teach_word(*this);
+  publishes = false;
   objects.insert({"GetSelection", "GetText", "createSearchDescriptor"});
   answers.merge(std::map<std::string, Answer>{
       {R"(Application.createInstance(bstr "com.sun.star.frame.Desktop"))", {.object = "Desktop"}},

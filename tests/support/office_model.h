@@ -11,10 +11,11 @@
 // How the recording objects of the process number their names, and what they publish. The environment
 // variable ZORB_OFFICE chooses.
 enum class Office {
-  plain,       // one list of numbers for all; nothing is published
-  published,   // each type its own numbers, in a registered type library
-  unloadable,  // the same, but the library is not where it is registered
-  own_numbers  // each object its own numbers; nothing is published
+  plain,        // one list of numbers for all; nothing is published
+  published,    // each type its own numbers, in a registered type library
+  unloadable,   // the same, but the library is not where it is registered
+  own_numbers,  // each object its own numbers; nothing is published
+  stale         // the same, but a library is published that says otherwise
 };
 Office office_kind();
 
@@ -24,6 +25,9 @@ std::string declared_answer(const std::string& type, const std::string& member, 
 
 // The names of a member's arguments in their order; empty where none is called by name.
 const std::vector<std::string>& argument_names(const std::string& member);
+
+// The names that published types have, and others as they come up.
+std::vector<std::string>& model_names();
 
 // Numbers and names of members; `shift` is how far a type's, or an object's, are moved. No name ("") is
 // behind a number that was never given.
