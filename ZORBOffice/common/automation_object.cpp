@@ -36,7 +36,7 @@ MemberId ask(IDispatch* object, Names names) {
 // Every name that reaches an office application is looked up here: in what is known of the object, otherwise
 // by asking it. was_known tells which.
 MemberId look_up(const AutomationObject& object, Names names, bool& was_known) {
-  MemberNames* const known = object.names().get();
+  MemberNames* const known = object.names();
   const MemberId* const found = known ? known->find(names) : nullptr;
   was_known = found != nullptr;
   if (found) return *found;
@@ -107,11 +107,11 @@ void invoke(const AutomationObject& holder, const wchar_t* name, WORD flags, Arg
   invoke(holder, Names(names.data(), named + 1), flags, parameters, result);
 }
 
-AutomationObject created(const CLSID& class_id) {
+ComPtr<IDispatch> created(const CLSID& class_id) {
   forget_earlier_failure();
   ComPtr<IDispatch> root;
   check(CoCreateInstance(class_id, nullptr, CLSCTX_SERVER, IID_IDispatch, root.receive_void()));
-  return AutomationObject(root.get());
+  return root;
 }
 
 CLSID class_of(const wchar_t* program_id) {
@@ -124,27 +124,31 @@ CLSID class_of(const wchar_t* program_id) {
 }  // namespace
 
 AutomationObject::AutomationObject(IDispatch* object)
-    : AutomationObject(object, std::make_shared<MemberNames>(nullptr, nullptr)) {}
+    : AutomationObject(ComPtr<IDispatch>(object), MemberNames::of_object(nullptr, nullptr)) {}
 
 AutomationObject AutomationObject::create(const wchar_t* program_id) { return create(class_of(program_id)); }
 
 AutomationObject AutomationObject::create(const CLSID& class_id) {
-  AutomationObject root = created(class_id);
-  if (const auto type = PublishedTypes::of_root(root.dispatch(), *root.names_)) {
-    root.names_ = std::make_shared<MemberNames>(type->types(), type.get());
-  }
+  AutomationObject root(created(class_id).get());
+  if (const auto type = PublishedTypes::of_root(root.dispatch(), *root.names_.get())) root.names_ = type;
   return root;
 }
 
 AutomationObject AutomationObject::create_untyped(const wchar_t* program_id) {
-  return created(class_of(program_id));
+  return AutomationObject(created(class_of(program_id)).get());
 }
 
 AutomationObject AutomationObject::known_as(const wchar_t* class_name) const {
-  const auto types = names_ ? names_->types() : nullptr;
+  PublishedTypes* const types = names_ ? names_->types() : nullptr;
   MemberNames* const type = types ? types->type(class_name) : nullptr;
-  return type ? AutomationObject(dispatch(), std::make_shared<MemberNames>(types, type)) : *this;
+  return type ? AutomationObject(object_, ComPtr<MemberNames>(type)) : *this;
 }
+
+void AutomationObject::keep_names() {
+  if (names_ && !names_->is_of_one_object()) names_ = MemberNames::of_object(names_->types(), names_.get());
+}
+
+KeptObject::KeptObject(AutomationObject object) : AutomationObject(std::move(object)) { keep_names(); }
 
 const AutomationObject& AutomationObject::typed() const {
   if (!object_) throw_runtime_error(runtime_error::object_variable_not_set);
@@ -158,7 +162,7 @@ Result AutomationObject::get_with(const wchar_t* name, Arguments arguments) cons
 }
 
 Result AutomationObject::get_common(const wchar_t* name) const {
-  const auto types = names_ ? names_->types() : nullptr;
+  PublishedTypes* const types = names_ ? names_->types() : nullptr;
   const DISPID id = types ? types->common_id(name) : DISPID_UNKNOWN;
   if (id != DISPID_UNKNOWN) names_->remember(Names(&name, 1), MemberId{id});
   return get(name);
@@ -194,15 +198,15 @@ AutomationObject Result::object() const {
 }
 
 AutomationObject Result::object_or_nothing() const {
-  const ComPtr<IDispatch> object = dispatch();
+  ComPtr<IDispatch> object = dispatch();
   if (!object) return {};
-  return AutomationObject(object.get(), std::make_shared<MemberNames>(types_, type_));
+  return AutomationObject(std::move(object), type_ ? type_ : MemberNames::of_object(types_.get(), nullptr));
 }
 
 AutomationObject Result::passing() const {
-  const ComPtr<IDispatch> object = dispatch();
+  ComPtr<IDispatch> object = dispatch();
   if (!object) throw_runtime_error(runtime_error::object_variable_not_set);
-  return AutomationObject(object.get(), type_ ? types_->shared(type_) : nullptr);
+  return AutomationObject(std::move(object), type_);
 }
 
 Variant Result::converted_to(VARTYPE type) const {
@@ -246,8 +250,8 @@ Enumerator::Enumerator(const AutomationObject& collection) {
     throw_hresult(DISP_E_NOTACOLLECTION);
   }
   if (!collection.names()) return;
-  type_ = collection.names()->element();
-  types_ = collection.names()->types();
+  type_ = ComPtr<MemberNames>(collection.names()->element());
+  types_ = ComPtr<PublishedTypes>(collection.names()->types());
 }
 
 bool Enumerator::next(Result& element) const {
@@ -257,7 +261,7 @@ bool Enumerator::next(Result& element) const {
   const HRESULT status = elements_->Next(1, following.receive(), &fetched);
   check(status);
   if (status != S_OK || fetched != 1) return false;
-  following.set_type(type_, types_);
+  following.set_type(type_.get(), types_.get());
   element = std::move(following);
   return true;
 }

@@ -6,7 +6,6 @@
 
 #include <concepts>
 #include <initializer_list>
-#include <memory>
 #include <utility>
 
 #include "ZORBOffice/common/argument.h"
@@ -68,24 +67,35 @@ class AutomationObject {
   // This object as a variable that a call gets by reference: the called side may put another object into it,
   // of whose members nothing is known.
   IDispatch** variable() {
-    names_.reset();
+    names_ = {};
     return object_.receive();
   }
 
   // What is known of its members; null for nothing, and where nothing is to be kept.
-  const std::shared_ptr<MemberNames>& names() const { return names_; }
+  MemberNames* names() const { return names_.get(); }
+
+ protected:
+  // Lets this object keep what it says of its members beside what its type's library says.
+  void keep_names();
 
  private:
   friend class Result;
 
-  AutomationObject(IDispatch* object, std::shared_ptr<MemberNames> names)
-      : object_(object), names_(std::move(names)) {}
+  AutomationObject(ComPtr<IDispatch> object, ComPtr<MemberNames> names)
+      : object_(std::move(object)), names_(std::move(names)) {}
 
   Result get_with(const wchar_t* name, std::initializer_list<Argument> arguments) const;
   void call_with(const wchar_t* name, std::initializer_list<Argument> arguments) const;
 
   ComPtr<IDispatch> object_;
-  std::shared_ptr<MemberNames> names_;
+  ComPtr<MemberNames> names_;
+};
+
+// An object that a control keeps from call to call, with what the object says of its members.
+class KeptObject : public AutomationObject {
+ public:
+  KeptObject() = default;
+  KeptObject(AutomationObject object);
 };
 
 // What a get returned.
@@ -124,10 +134,11 @@ class Result {
   const VARIANT& value() const { return value_.get(); }
   VARIANT* receive() { return value_.receive(); }
 
-  // Says what is known of an object in it: its type, null for none, of the session's types.
-  void set_type(MemberNames* type, std::shared_ptr<PublishedTypes> types) {
-    type_ = type;
-    types_ = std::move(types);
+  // Says what is known of an object in it: its type, null for none, of the session's types, which may be
+  // null.
+  void set_type(MemberNames* type, PublishedTypes* types) {
+    type_ = ComPtr<MemberNames>(type);
+    types_ = ComPtr<PublishedTypes>(types);
   }
 
  private:
@@ -140,8 +151,8 @@ class Result {
   AutomationObject passing() const;
 
   Variant value_;
-  MemberNames* type_ = nullptr;
-  std::shared_ptr<PublishedTypes> types_;
+  ComPtr<MemberNames> type_;
+  ComPtr<PublishedTypes> types_;
 };
 
 // Walks a collection as For Each does, one element a step.
@@ -155,8 +166,8 @@ class Enumerator {
 
  private:
   ComPtr<IEnumVARIANT> elements_;
-  MemberNames* type_ = nullptr;  // of the elements
-  std::shared_ptr<PublishedTypes> types_;
+  ComPtr<MemberNames> type_;  // of the elements
+  ComPtr<PublishedTypes> types_;
 };
 
 template <std::convertible_to<Argument>... Arguments>

@@ -1,6 +1,7 @@
 #include "ZORBOffice/common/member_names.h"
 
 #include <algorithm>
+#include <cstring>
 #include <optional>
 
 #include "ZORBOffice/common/bstr.h"
@@ -9,11 +10,17 @@
 namespace zorboffice {
 namespace {
 
+struct Measured {
+  std::uint32_t hash;
+  std::size_t length;
+};
+
 // FNV-1a: names are short, and few a type.
-std::uint32_t hash_of(const wchar_t* name) {
+Measured measured(const wchar_t* name) {
   std::uint32_t hash = 2166136261U;
-  for (; *name; ++name) hash = (hash ^ *name) * 16777619U;
-  return hash;
+  const wchar_t* end = name;
+  for (; *end; ++end) hash = (hash ^ *end) * 16777619U;
+  return {hash, static_cast<std::size_t>(end - name)};
 }
 
 // A library that is registered for a running application may be another version's, or damaged: the root
@@ -33,6 +40,33 @@ bool is_confirmed_by(IDispatch* root, MemberNames& root_names, ITypeInfo* type) 
 }
 
 }  // namespace
+
+ComPtr<MemberNames> MemberNames::of_object(PublishedTypes* types, MemberNames* type) {
+  ComPtr<MemberNames> names;
+  *names.receive() = new MemberNames(types, type);
+  return names;
+}
+
+MemberNames::MemberNames(PublishedTypes* types, MemberNames* type) : types_(types), declared_(type) {
+  if (types_) types_->AddRef();
+}
+
+MemberNames::MemberNames(ComPtr<ITypeInfo> type, const GUID& id, PublishedTypes& types)
+    : type_(std::move(type)), type_id_(id), types_(&types) {}
+
+MemberNames::~MemberNames() {
+  if (is_of_one_object() && types_) types_->Release();
+}
+
+void MemberNames::AddRef() {
+  if (!is_of_one_object()) return types_->AddRef();
+  ++references_;
+}
+
+void MemberNames::Release() {
+  if (!is_of_one_object()) return types_->Release();
+  if (--references_ == 0) delete this;
+}
 
 const MemberId* MemberNames::find(Names names) {
   if (const Entry* entry = known(names)) return &entry->id;
@@ -54,21 +88,18 @@ MemberNames* MemberNames::element() {
   if (!type_) return nullptr;
   if (!element_) {
     const MemberDescription member = describe_member(type_.get(), DISPID_VALUE);
-    element_ = member.answer ? owner_->type(member.answer) : nullptr;
+    element_ = member.answer ? types_->type(member.answer) : nullptr;
   }
   return *element_;
 }
 
 MemberNames::Entry* MemberNames::known(Names names) {
-  const std::uint32_t hash = hash_of(names[0]);
+  const auto [hash, length] = measured(names[0]);
   for (Entry& entry : entries_) {
-    if (entry.hash == hash && entry.name_count == names.size() && entry.name == names[0]) return &entry;
+    if (entry.hash != hash || entry.name_count != names.size() || entry.name.size() != length) continue;
+    if (std::memcmp(entry.name.data(), names[0], length * sizeof(wchar_t)) == 0) return &entry;
   }
   return nullptr;
-}
-
-std::shared_ptr<PublishedTypes> MemberNames::types() const {
-  return owner_ ? owner_->shared_from_this() : types_;
 }
 
 const MemberId* MemberNames::published(Names names) {
@@ -78,17 +109,17 @@ const MemberId* MemberNames::published(Names names) {
     return nullptr;
   }
   const MemberDescription member = describe_member(type_.get(), ids[0]);
-  MemberId id{ids[0], {}, member.parameters, member.answer ? owner_->type(member.answer) : nullptr};
+  MemberId id{ids[0], {}, member.parameters, member.answer ? types_->type(member.answer) : nullptr};
   std::copy(ids.begin() + 1, ids.end(), id.named_arguments.begin());
   return add(names, id);
 }
 
 const MemberId* MemberNames::add(Names names, const MemberId& id) {
-  entries_.push_back({hash_of(names[0]), static_cast<UINT>(names.size()), names[0], id});
+  entries_.push_back({measured(names[0]).hash, static_cast<UINT>(names.size()), names[0], id});
   return &entries_.back().id;
 }
 
-std::shared_ptr<MemberNames> PublishedTypes::of_root(IDispatch* root, MemberNames& root_names) {
+ComPtr<MemberNames> PublishedTypes::of_root(IDispatch* root, MemberNames& root_names) {
   ComPtr<ITypeInfo> own;
   if (FAILED(root->GetTypeInfo(0, LOCALE_USER_DEFAULT, own.receive())) || !own) return {};
   const std::optional<GUID> id = type_id(own.get());
@@ -97,8 +128,9 @@ std::shared_ptr<MemberNames> PublishedTypes::of_root(IDispatch* root, MemberName
   if (!id || !library || FAILED(library->GetTypeInfoOfGuid(*id, type.receive()))) return {};
   type = dispatch_type(type);
   if (!type || !is_confirmed_by(root, root_names, type.get())) return {};
-  const auto types = std::make_shared<PublishedTypes>(library);
-  return types->shared(types->type(type));
+  ComPtr<PublishedTypes> types;
+  *types.receive() = new PublishedTypes(library);
+  return ComPtr<MemberNames>(types->type(type));
 }
 
 MemberNames* PublishedTypes::type(ComPtr<ITypeInfo> information) {

@@ -36,15 +36,22 @@ struct MemberId {
 // What is known of the members of one object, or of all objects of one published type. Objects number their
 // names as they like: what one object said holds for that object, and what a type library publishes holds for
 // the objects that it is declared for.
+//
+// Counted, like the objects, and like them used in one apartment only.
 class MemberNames {
  public:
   // Of one object. type: what it is declared as, null for any object; types: the session's, may be null.
-  MemberNames(std::shared_ptr<PublishedTypes> types, MemberNames* type)
-      : types_(std::move(types)), declared_(type) {}
+  static ComPtr<MemberNames> of_object(PublishedTypes* types, MemberNames* type);
 
-  // Of all objects of a type, which belongs to types.
-  MemberNames(ComPtr<ITypeInfo> type, const GUID& id, PublishedTypes& types)
-      : type_(std::move(type)), type_id_(id), owner_(&types) {}
+  // Of all objects of a type, which belongs to types and lives as long.
+  MemberNames(ComPtr<ITypeInfo> type, const GUID& id, PublishedTypes& types);
+
+  MemberNames(const MemberNames&) = delete;
+  MemberNames& operator=(const MemberNames&) = delete;
+  ~MemberNames();
+
+  void AddRef();
+  void Release();
 
   // Returns what is known without asking the object, null for nothing.
   const MemberId* find(Names names);
@@ -56,7 +63,10 @@ class MemberNames {
   MemberNames* element();
 
   // The published types of the session, null where the application publishes none.
-  std::shared_ptr<PublishedTypes> types() const;
+  PublishedTypes* types() const { return types_; }
+
+  // Whether what one object says is kept here.
+  bool is_of_one_object() const { return !type_; }
 
   const GUID& type_id() const { return type_id_; }
 
@@ -72,25 +82,33 @@ class MemberNames {
   const MemberId* published(Names names);
   const MemberId* add(Names names, const MemberId& id);
 
+  MemberNames(PublishedTypes* types, MemberNames* type);
+
   ComPtr<ITypeInfo> type_;
   GUID type_id_{};
-  PublishedTypes* owner_ = nullptr;  // of a type
-  std::shared_ptr<PublishedTypes> types_;
-  MemberNames* declared_ = nullptr;  // of one object, as is types_
+  PublishedTypes* types_;  // counted where this is one object's
+  MemberNames* declared_ = nullptr;
+  ULONG references_ = 1;
   std::vector<Entry> entries_;
   std::optional<MemberNames*> element_;
 };
 
 // The types that an application publishes, for one session: from the creation of its root object until
 // nothing that came from it is held any more. An application that was started again is asked again.
-class PublishedTypes : public std::enable_shared_from_this<PublishedTypes> {
+class PublishedTypes {
  public:
-  explicit PublishedTypes(ComPtr<ITypeLib> library) : library_(std::move(library)) {}
+  PublishedTypes(const PublishedTypes&) = delete;
+  PublishedTypes& operator=(const PublishedTypes&) = delete;
+
+  void AddRef() { ++references_; }
+  void Release() {
+    if (--references_ == 0) delete this;
+  }
 
   // Asks a root object for its type library, loads that in this process, and returns the root's type. Null
-  // where the object publishes none, where it cannot be loaded, or where it does not say what the object says,
-  // which root_names keeps.
-  static std::shared_ptr<MemberNames> of_root(IDispatch* root, MemberNames& root_names);
+  // where the object publishes none, where it cannot be loaded, or where it does not say what the object
+  // says, which root_names keeps.
+  static ComPtr<MemberNames> of_root(IDispatch* root, MemberNames& root_names);
 
   // The names of a type, null where it is not for automation.
   MemberNames* type(ComPtr<ITypeInfo> information);
@@ -102,9 +120,6 @@ class PublishedTypes : public std::enable_shared_from_this<PublishedTypes> {
   // differ.
   DISPID common_id(const wchar_t* name);
 
-  // A type's names, which keep the session's types alive.
-  std::shared_ptr<MemberNames> shared(MemberNames* type) { return {shared_from_this(), type}; }
-
  private:
   struct Named {
     std::wstring name;
@@ -115,7 +130,11 @@ class PublishedTypes : public std::enable_shared_from_this<PublishedTypes> {
     DISPID id;
   };
 
+  explicit PublishedTypes(ComPtr<ITypeLib> library) : library_(std::move(library)) {}
+  ~PublishedTypes() = default;
+
   ComPtr<ITypeLib> library_;
+  ULONG references_ = 1;
   std::vector<std::unique_ptr<MemberNames>> types_;
   std::vector<Named> named_;
   std::vector<Common> common_;

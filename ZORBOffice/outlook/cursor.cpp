@@ -17,7 +17,7 @@ HRESULT ZORBOutlook::InitItems(BSTR EntryType, BSTR Condition, VARIANT_BOOL* res
         {L"init items ", view(EntryType), L" ", view(Condition), L" ", failure.description.view()});
   };
   const auto fill = [&](const EntryTypeRow& type) {
-    AutomationObject& field = state_.*type.items;
+    KeptObject& field = state_.*type.items;
     AutomationObject items = session().get(L"GetDefaultFolder", type.folder).get(L"Items").object();
     field = items;
     if (!view(Condition).empty()) {

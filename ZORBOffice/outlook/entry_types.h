@@ -13,11 +13,11 @@ struct EntryTypeRow {
   std::wstring_view word;
   LONG folder;              // an OlDefaultFolders value
   const wchar_t* sort_key;  // null leaves the folder's own order
-  AutomationObject OutlookState::*items;
-  AutomationObject OutlookState::*current_item = nullptr;  // null: a word for filling the collection only
-  LONG item_class = 0;                                     // an OlObjectClass value
-  LONG item_type = 0;                                      // an OlItemType value
-  const wchar_t* item_name = nullptr;                      // the items' class in Outlook's type library
+  KeptObject OutlookState::*items;
+  KeptObject OutlookState::*current_item = nullptr;  // null: a word for filling the collection only
+  LONG item_class = 0;                               // an OlObjectClass value
+  LONG item_type = 0;                                // an OlItemType value
+  const wchar_t* item_name = nullptr;                // the items' class in Outlook's type library
 };
 
 // The row of an entry type, compared exactly; null where there is none.

@@ -9,19 +9,19 @@ namespace zorboffice {
 // Nothing empties a field again; a newer reference replaces it. They are released last to first, so that what
 // came from an object goes before the object.
 struct OutlookState {
-  AutomationObject OutlookApp;
-  AutomationObject OutlookNamespace;
-  AutomationObject AppointmentItems;
-  AutomationObject CurrentAppointment;
-  AutomationObject CurrentRecurrencePattern;
-  AutomationObject ContactItems;
-  AutomationObject CurrentContact;
-  AutomationObject TaskItems;
-  AutomationObject CurrentTask;
-  AutomationObject EmailItems;
-  AutomationObject CurrentEmail;
-  AutomationObject NoteItems;
-  AutomationObject CurrentNote;
+  KeptObject OutlookApp;
+  KeptObject OutlookNamespace;
+  KeptObject AppointmentItems;
+  KeptObject CurrentAppointment;
+  KeptObject CurrentRecurrencePattern;
+  KeptObject ContactItems;
+  KeptObject CurrentContact;
+  KeptObject TaskItems;
+  KeptObject CurrentTask;
+  KeptObject EmailItems;
+  KeptObject CurrentEmail;
+  KeptObject NoteItems;
+  KeptObject CurrentNote;
   LastError last_error;
 };
 

@@ -98,8 +98,8 @@ class WordMembers : public Control<WordProcessorInterface> {
   // Closes a document, in its own format, with the host's SaveOption by reference.
   static void close(const AutomationObject& document, SHORT* SaveOption);
 
-  AutomationObject application_;  // in OpenWriter the suite's service manager
-  AutomationObject active_document_;
+  KeptObject application_;  // in OpenWriter the suite's service manager
+  KeptObject active_document_;
 
  private:
   // A header or footer of the active document, whether it exists or not.

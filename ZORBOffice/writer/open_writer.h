@@ -33,8 +33,8 @@ class OpenWriter final : public WordMembers {
   // Loads file:/// and the path as it is, and makes the document the active one.
   Success load(BSTR* path);
 
-  AutomationObject core_reflection_;  // held as long as the desktop, and never called
-  AutomationObject desktop_;
+  KeptObject core_reflection_;  // held as long as the desktop, and never called
+  KeptObject desktop_;
 };
 
 }  // namespace zorboffice
