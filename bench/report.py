@@ -1,0 +1,147 @@
+"""Prints what script/bench measured as tables, writes it as JSON, and fails where a limit is passed: report.py FOLDER
+
+The folder holds files of lines whose fields are separated by tabs, as bench/measure.cpp and script/bench write them.
+"""
+import glob
+import json
+import os
+import platform
+import sys
+
+MEMBER = ("where", "class", "member", "variant", "own_cost", "begins_session")
+TRIPS = MEMBER + tuple(f"{use}_{what}" for use in ("first", "third", "script", "least")
+                       for what in ("look_ups", "questions", "calls"))
+TIMES = MEMBER + ("steps", "vtable", "invoke", "client", "looking_up")  # nanoseconds
+FIELDS = {"trips": TRIPS, "time": TIMES, "walk": ("items", "nanoseconds"), "job": ("over", "host", "seconds"),
+          "sections": ("sections", "read", "replace"), "mailbox": ("items", "seconds"), "fact": ("what", "value", "unit")}
+
+
+def number(text):
+    try:
+        return int(text)
+    except ValueError:
+        try:
+            return float(text)
+        except ValueError:
+            return text
+
+
+def read(folder):
+    rows = {what: [] for what in FIELDS}
+    for name in sorted(glob.glob(os.path.join(folder, "*.tsv"))):
+        with open(name, encoding="utf-8") as file:
+            for line in file:
+                what, *values = line.rstrip("\r\n").split("\t")
+                rows[what].append(dict(zip(FIELDS[what], map(number, values), strict=True)))
+    return rows
+
+
+def machine():
+    with open("/proc/cpuinfo", encoding="utf-8") as file:
+        processors = [line.split(":")[1].strip() for line in file if line.startswith("model name")]
+    with open("/etc/os-release", encoding="utf-8") as file:
+        system = dict(line.rstrip("\n").split("=", 1) for line in file if "=" in line)["PRETTY_NAME"].strip('"')
+    return {"processors": f"{len(processors)} x {processors[0]}", "system": system, "kernel": platform.release(),
+            "wine": os.popen("wine --version").read().strip(), "load_before": number(os.environ.get("BENCH_LOAD", "0"))}
+
+
+class Limits:
+    def __init__(self):
+        self.rows = []
+
+    def at_most(self, what, value, limit, unit=""):
+        holds = value <= limit
+        self.rows.append({"what": what, "value": value, "limit": limit, "unit": unit, "holds": holds})
+
+
+def name_of(row):
+    return f"{row['class']}.{row['member']}" + (f" ({row['variant']})" if row["variant"] else "")
+
+
+def trips(row, use):
+    return [row[f"{use}_{what}"] for what in ("look_ups", "questions", "calls")]
+
+
+def print_trips(rows, limits):
+    print("\nTrips to the office: names looked up + questions for types + calls. \"As text\" is what the library needs where an")
+    print("application publishes no types. Members that begin a session ask its root object each time.\n")
+    print(f"{'member':52} {'first use':>10} {'third use':>10} {'no types':>10} {'script':>9} {'least':>6}")
+    untyped = {name_of(row): row for row in rows if row["where"] == "untyped"}
+    inside = [row for row in rows if row["where"] == "inside"]
+    for row in inside:
+        cells = ["{}+{}+{}".format(*trips(row, use)) for use in ("first", "third")]
+        cells.append("{}+{}+{}".format(*trips(untyped[name_of(row)], "third")))
+        script = trips(row, "script")
+        print(f"{name_of(row):52} {cells[0]:>10} {cells[1]:>10} {cells[2]:>10} {script[0]}+{script[2]:<6} {trips(row, 'least')[2]:>6}")
+    total = {use: sum(sum(trips(row, use)) for row in inside) for use in ("first", "third", "script", "least")}
+    print(f"{'all members, trips':52} {total['first']:>10} {total['third']:>10} "
+          f"{sum(sum(trips(row, 'third')) for row in untyped.values()):>10} {total['script']:>9} {total['least']:>6}")
+    for row in rows:
+        if row["where"] == "untyped":
+            continue
+        asked = row["third_look_ups"] + row["third_questions"]
+        where = "in-process" if row["where"] == "inside" else "another process"
+        # A session begins with a look at what the application publishes now; a handful, whatever the member does.
+        limit = 8 if row["begins_session"] else 0
+        limits.at_most(f"{name_of(row)}: look-ups and questions on the third use, {where}", asked, limit)
+        limits.at_most(f"{name_of(row)}: calls beyond those that are needed, {where}",
+                       row["third_calls"] - row["least_calls"], 0)
+
+
+def print_times(rows, where, title, unit, limits):
+    chosen = [row for row in rows if row["where"] == where]
+    scale = {"us": 1e3, "ms": 1e6}[unit]
+    print(f"\n{title}\n")
+    print(f"{'member':52} {'steps':>5} {'client':>9} {'look-ups':>9} {'vtable':>9} {'Invoke':>9} {'vtable/client':>14} "
+          f"{'Invoke/client':>14}")
+
+    def line(name, row, note=""):
+        print(f"{name:52} {row['steps']:5} " + " ".join(f"{row[way] / scale:9.2f}" for way in
+              ("client", "looking_up", "vtable", "invoke")) +
+              f" {row['vtable'] / row['client']:14.3f} {row['invoke'] / row['client']:14.3f}  {note}")
+
+    summed = {way: 0 for way in ("steps", "client", "looking_up", "vtable", "invoke")}
+    for row in chosen:
+        line(name_of(row), row, f"(not in the sum: {row['own_cost']})" if row["own_cost"] else "")
+        if not row["own_cost"]:
+            for way in summed:
+                summed[way] += row[way]
+    line("sum", summed)
+    own = (summed["vtable"] - summed["client"]) / summed["steps"]
+    print(f"The library's own time a step by vtable: {own:.0f} ns")
+    if where == "inside":
+        limits.at_most("in-process, sum by vtable over the client", summed["vtable"] / summed["client"], 1.2)
+        limits.at_most("in-process, sum by Invoke over the client", summed["invoke"] / summed["client"], 1.4)
+        limits.at_most("in-process, the library's own time a step by vtable", own, 100, "ns")
+    else:
+        for way in ("vtable", "invoke"):
+            limits.at_most(f"another process, sum by {way} over the client", summed[way] / summed["client"], 1.1)
+            limits.at_most(f"another process, sum by {way} over the client that looks up names",
+                           summed[way] / summed["looking_up"], 0.7)
+    return summed | {"own_time_a_step": own}
+
+
+def main():
+    folder = sys.argv[1]
+    rows = read(folder)
+    limits = Limits()
+    results = {"machine": machine()} | rows
+    print("machine: " + ", ".join(f"{value}" for value in results["machine"].values()))
+    print_trips(rows["trips"], limits)
+    results["sums"] = {
+        "inside": print_times(rows["time"], "inside", "Time a member in microseconds, over an office in the process whose "
+                              "calls and look-ups take one microsecond", "us", limits),
+        "outside": print_times(rows["time"], "outside", "Time a member in milliseconds, over an office in another process "
+                               "that answers at once", "ms", limits)}
+    results["limits"] = limits.rows
+    with open(os.path.join(folder, "results.json"), "w", encoding="utf-8") as file:
+        json.dump(results, file, indent=1)
+    broken = [row for row in limits.rows if not row["holds"]]
+    for row in broken:
+        print(f"bench: {row['what']}: {row['value']:.4g}{row['unit'] and ' ' + row['unit']}, at most {row['limit']}", file=sys.stderr)
+    print(f"\n{len(limits.rows) - len(broken)} of {len(limits.rows)} limits hold")
+    return 1 if broken else 0
+
+
+if __name__ == "__main__":
+    sys.exit(main())
