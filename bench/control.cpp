@@ -101,9 +101,11 @@ HMODULE library() {
   return module;
 }
 
-ComPtr<IDispatch> create(const CLSID& class_id) {
+ComPtr<IDispatch> create(const CLSID& class_id) { return create_from(library(), class_id); }
+
+ComPtr<IDispatch> create_from(HMODULE module, const CLSID& class_id) {
   using GetClassObject = HRESULT(WINAPI*)(REFCLSID, REFIID, void**);
-  const auto get = reinterpret_cast<GetClassObject>(GetProcAddress(library(), "DllGetClassObject"));
+  const auto get = reinterpret_cast<GetClassObject>(GetProcAddress(module, "DllGetClassObject"));
   ComPtr<IClassFactory> factory;
   ComPtr<IDispatch> instance;
   if (!get || FAILED(get(class_id, IID_IClassFactory, factory.receive_void())) ||

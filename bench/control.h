@@ -39,7 +39,8 @@ class ReadyCall {
 // The library beside this program. Throws std::runtime_error.
 HMODULE library();
 
-// A new instance.
+// A new instance, of that library or of a loaded module.
 zorboffice::ComPtr<IDispatch> create(const CLSID& class_id);
+zorboffice::ComPtr<IDispatch> create_from(HMODULE module, const CLSID& class_id);
 
 }  // namespace bench

@@ -1,6 +1,6 @@
 // Measures the built library over the bench's own office, which bench_office must have registered. Writes
 // lines of fields separated by tabs, the first of which says what the line is; bench/report.py reads them.
-//   bench_measure inside | outside | walk
+//   bench_measure inside | outside | walk | life
 #include <algorithm>
 #include <cstdio>
 #include <functional>
@@ -9,6 +9,7 @@
 #include <string_view>
 #include <vector>
 
+#include "bench/life.h"
 #include "bench/subject.h"
 
 namespace bench {
@@ -148,7 +149,7 @@ void measure_outside() {
     Trips first, third;
     count(*subject.measured, *subject.member, first, third);
     print_trips(subject, "outside", first, third);
-    print_times(subject, "outside", 8, 3);
+    print_times(subject, "outside", 24, 1);
   }
 }
 
@@ -194,6 +195,8 @@ int main(int count, char** arguments) {
       bench::measure_outside();
     } else if (command == "walk") {
       bench::measure_walks();
+    } else if (command == "life") {
+      bench::measure_life();
     } else {
       return 2;
     }
