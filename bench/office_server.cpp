@@ -38,6 +38,7 @@ void serve(const std::wstring& folder, HANDLE stopped) {
     ~Unregistered() { bench::unregister_applications(); }
   } at_the_end;
   bench::register_applications(folder, L"\"" + std::wstring(program) + L"\" --serve \"" + folder + L"\"");
+  ResetEvent(stopped);  // an earlier server that does not end holds it as it was
   keep_stubs_at_hand();
   const bench::ServedClasses served(CLSCTX_LOCAL_SERVER);
   served.keep_interfaces();
