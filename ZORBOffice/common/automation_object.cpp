@@ -229,12 +229,35 @@ Bstr Result::text() && {
   return Bstr::adopt(V_BSTR(&converted));
 }
 
-LONG Result::int32() const { return V_I4(&converted_to(VT_I4).get()); }
-SHORT Result::int16() const { return V_I2(&converted_to(VT_I2).get()); }
-float Result::single() const { return V_R4(&converted_to(VT_R4).get()); }
-DATE Result::date() const { return V_DATE(&converted_to(VT_DATE).get()); }
+const VARIANT& Result::as(VARTYPE type, Variant& room) const {
+  if (value_.type() == type) return value_.get();
+  room = converted_to(type);
+  return room.get();
+}
+
+LONG Result::int32() const {
+  Variant room;
+  return V_I4(&as(VT_I4, room));
+}
+
+SHORT Result::int16() const {
+  Variant room;
+  return V_I2(&as(VT_I2, room));
+}
+
+float Result::single() const {
+  Variant room;
+  return V_R4(&as(VT_R4, room));
+}
+
+DATE Result::date() const {
+  Variant room;
+  return V_DATE(&as(VT_DATE, room));
+}
+
 bool Result::flag() const {
-  return value_.type() != VT_NULL && V_BOOL(&converted_to(VT_BOOL).get()) != VARIANT_FALSE;
+  Variant room;
+  return value_.type() != VT_NULL && V_BOOL(&as(VT_BOOL, room)) != VARIANT_FALSE;
 }
 
 Enumerator::Enumerator(const AutomationObject& collection) {

@@ -144,6 +144,10 @@ class Result {
  private:
   Variant converted_to(VARTYPE type) const;
 
+  // The value as it is where it has the type already, otherwise converted into room: a conversion takes as
+  // long as all the rest of a step.
+  const VARIANT& as(VARTYPE type, Variant& room) const;
+
   // Counted, and null for Nothing; "Object required" where it holds none.
   ComPtr<IDispatch> dispatch() const;
 

@@ -26,7 +26,9 @@ class Bstr {
 
   Bstr(const Bstr& other) : Bstr(other.view()) {}
   Bstr(Bstr&& other) noexcept : text_(std::exchange(other.text_, nullptr)) {}
-  ~Bstr() { SysFreeString(text_); }
+  ~Bstr() {
+    if (text_) SysFreeString(text_);
+  }
 
   Bstr& operator=(Bstr other) noexcept {
     std::swap(text_, other.text_);

@@ -83,9 +83,15 @@ namespace detail {
 inline void set_failure(BYTE* result) { *result = 0; }
 inline void set_failure(VARIANT_BOOL* result) { *result = VARIANT_FALSE; }  // also a 16-bit 0
 inline void set_failure(LONG* result) { *result = 0; }
-// An allocated empty string: some hosts tell a null one from an empty one.
-inline void set_failure(BSTR* result) { *result = SysAllocStringLen(nullptr, 0); }
+inline void set_failure(BSTR* result) { *result = nullptr; }
 inline void set_failure(VARIANT* result) { VariantInit(result); }
+
+// An allocated empty string for no string: some hosts tell the two apart.
+template <class ResultType>
+void complete(ResultType*) {}
+inline void complete(BSTR* result) {
+  if (!*result) *result = SysAllocStringLen(nullptr, 0);
+}
 
 // A caller does not free what came with a failed call.
 template <class ResultType>
@@ -101,11 +107,7 @@ inline void set_result(VARIANT_BOOL* result, Success) { *result = VARIANT_TRUE; 
 inline void set_result(VARIANT_BOOL* result, bool value) { *result = value ? VARIANT_TRUE : VARIANT_FALSE; }
 inline void set_result(SHORT* result, SHORT value) { *result = value; }
 inline void set_result(LONG* result, LONG value) { *result = value; }
-inline void set_result(BSTR* result, Bstr value) {
-  if (!value.get()) return;
-  SysFreeString(*result);
-  *result = value.release();
-}
+inline void set_result(BSTR* result, Bstr value) { *result = value.release(); }
 
 // A callable by reference, so that the frame itself exists once and not once a member.
 class CallableRef {
@@ -156,7 +158,11 @@ HRESULT trapped(ResultType* result, const Trap& trap, const Body& body) noexcept
     }
   };
   const HRESULT status = detail::run_in_frame(detail::CallableRef(run), detail::TrapRef(trap));
-  if (FAILED(status)) detail::discard(result);
+  if (FAILED(status)) {
+    detail::discard(result);
+  } else {
+    detail::complete(result);
+  }
   return status;
 }
 

@@ -13,7 +13,10 @@ class Variant {
   Variant() { VariantInit(&value_); }
   Variant(Variant&& other) noexcept : value_(other.release()) {}
   Variant(const Variant&) = delete;
-  ~Variant() { VariantClear(&value_); }
+  // Most are empty by now, and the system's function costs more than the question.
+  ~Variant() {
+    if (V_VT(&value_) != VT_EMPTY) VariantClear(&value_);
+  }
 
   Variant& operator=(Variant other) noexcept {
     std::swap(value_, other.value_);

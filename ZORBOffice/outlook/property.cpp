@@ -46,8 +46,9 @@ constexpr wchar_t name[] = L"Name";
 constexpr wchar_t display_name[] = L"DisplayName";
 
 const Property* find(std::span<const Property> properties, BSTR key, auto is_served) {
+  const std::wstring_view wanted = view(key);
   const auto row = std::ranges::find_if(
-      properties, [&](const Property& property) { return property.key == view(key) && is_served(property); });
+      properties, [&](const Property& property) { return property.key == wanted && is_served(property); });
   return row == properties.end() ? nullptr : &*row;
 }
 
