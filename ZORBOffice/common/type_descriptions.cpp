@@ -111,16 +111,24 @@ ComPtr<ITypeInfo> dispatch_type(ComPtr<ITypeInfo> type) {
 }
 
 MemberDescription describe_member(ITypeInfo* type, DISPID id) {
+  const auto describe = [&](UINT index) -> std::optional<MemberDescription> {
+    const Function member(type, index);
+    if (!member || member->memid != id || !(member->invkind & (INVOKE_FUNC | INVOKE_PROPERTYGET))) return {};
+    return MemberDescription{member->cParams, object_type(type, member->elemdescFunc.tdesc)};
+  };
   ComPtr<ITypeInfo2> information;
-  if (FAILED(type->QueryInterface(IID_ITypeInfo2, information.receive_void()))) return {};
   UINT index = 0;
-  if (FAILED(information->GetFuncIndexOfMemId(id, INVOKE_PROPERTYGET, &index)) &&
-      FAILED(information->GetFuncIndexOfMemId(id, INVOKE_FUNC, &index))) {
-    return {};
+  if (SUCCEEDED(type->QueryInterface(IID_ITypeInfo2, information.receive_void())) &&
+      (SUCCEEDED(information->GetFuncIndexOfMemId(id, INVOKE_PROPERTYGET, &index)) ||
+       SUCCEEDED(information->GetFuncIndexOfMemId(id, INVOKE_FUNC, &index)))) {
+    if (const auto member = describe(index)) return *member;
   }
-  const Function member(type, index);
-  if (!member || member->memid != id) return {};
-  return {member->cParams, object_type(type, member->elemdescFunc.tdesc)};
+  // Some systems leave inherited members out of that index and count them among the functions.
+  const Attributes about(type);
+  for (index = 0; about && index < about->cFuncs; ++index) {
+    if (const auto member = describe(index)) return *member;
+  }
+  return {};
 }
 
 bool first_member(ITypeInfo* type, DISPID& id) {
