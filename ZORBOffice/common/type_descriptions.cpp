@@ -133,10 +133,16 @@ MemberDescription describe_member(ITypeInfo* type, DISPID id) {
 
 bool first_member(ITypeInfo* type, DISPID& id) {
   const Attributes about(type);
-  for (UINT i = 0; about && i < about->cFuncs; ++i) {
+  ComPtr<ITypeInfo2> information;
+  if (!about || FAILED(type->QueryInterface(IID_ITypeInfo2, information.receive_void()))) return false;
+  for (UINT i = 0; i < about->cFuncs; ++i) {
     const Function member(type, i);
-    // Some systems count IUnknown's and IDispatch's own, which are restricted.
-    if (!member || member->wFuncFlags & FUNCFLAG_FRESTRICTED) continue;
+    UINT own = 0;
+    // Some systems count IUnknown's and IDispatch's members too, but give them no index.
+    if (!member || member->wFuncFlags & FUNCFLAG_FRESTRICTED ||
+        FAILED(information->GetFuncIndexOfMemId(member->memid, member->invkind, &own))) {
+      continue;
+    }
     id = member->memid;
     return true;
   }
