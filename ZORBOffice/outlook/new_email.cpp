@@ -14,25 +14,19 @@ std::wstring_view without_blanks(std::wstring_view text) {
   return text.substr(first, text.find_last_not_of(L' ') - first + 1);
 }
 
-// Calls add with each path of a list separated by ";", and leaves in the list what is still to be examined,
-// at the end the last remainder. A list without a ";" stays as it is.
+// Calls add with each path of a list separated by ";", and leaves in the list what was examined last. A list
+// without a ";" stays as it is. The list is written once: it may be long.
 template <class Add>
 void consume_paths(BSTR* list, const Add& add) {
   const Bstr whole{view(*list)};
   std::wstring_view remainder = whole.view();
-  const auto publish = [&] {
-    if (remainder.size() != SysStringLen(*list) &&
-        !SysReAllocStringLen(list, remainder.data(), static_cast<UINT>(remainder.size())))
-      throw std::bad_alloc();
-  };
   for (auto end = remainder.find(L';'); end != std::wstring_view::npos; end = remainder.find(L';')) {
-    if (end > 0) {
-      publish();
-      add(remainder.substr(0, end));
-    }
+    if (end > 0) add(remainder.substr(0, end));
     remainder = without_blanks(remainder.substr(end + 1));
   }
-  publish();
+  if (remainder.size() != whole.view().size() &&
+      !SysReAllocStringLen(list, remainder.data(), static_cast<UINT>(remainder.size())))
+    throw std::bad_alloc();
   if (!remainder.empty()) add(without_blanks(remainder));
 }
 
