@@ -35,13 +35,12 @@ MemberId ask(IDispatch* object, Names names) {
 
 // Every name that reaches an office application is looked up here: in what is known of the object, otherwise
 // by asking it. was_known tells which.
-MemberId look_up(const AutomationObject& object, Names names, bool& was_known) {
-  MemberNames* const known = object.names();
-  const MemberId* const found = known ? known->find(names) : nullptr;
+MemberId look_up(const Callee& callee, Names names, bool& was_known) {
+  const MemberId* const found = callee.names ? callee.names->find(names) : nullptr;
   was_known = found != nullptr;
   if (found) return *found;
-  const MemberId asked = ask(object.dispatch(), names);
-  if (known) known->remember(names, asked);
+  const MemberId asked = ask(callee.object, names);
+  if (callee.names) callee.names->remember(names, asked);
   return asked;
 }
 
@@ -60,34 +59,31 @@ void invoke(IDispatch* object, DISPID member, WORD flags, DISPPARAMS& parameters
 }
 
 // parameters: the named arguments' identifiers are filled in here where names holds any.
-void invoke(const AutomationObject& holder, Names names, WORD flags, DISPPARAMS& parameters, Result* result) {
-  // Counted: while the call waits, the holder may let go of the object.
-  const AutomationObject held = holder;
+void invoke(const Callee& callee, Names names, WORD flags, DISPPARAMS& parameters, Result* result) {
   VARIANT* const answer = result ? result->receive() : nullptr;
   bool was_known = false;
-  MemberId id = look_up(held, names, was_known);
+  MemberId id = look_up(callee, names, was_known);
   const auto call = [&] {
     if (names.size() > 1) parameters.rgdispidNamedArgs = id.named_arguments.data();
-    return try_to_invoke(held.dispatch(), id.member, flags, parameters, answer);
+    return try_to_invoke(callee.object, id.member, flags, parameters, answer);
   };
   HRESULT status = call();
   if (status == DISP_E_MEMBERNOTFOUND && was_known) {
     // Nothing has run. The object may number its members in a way of its own.
-    const DISPID refused = std::exchange(id, ask(held.dispatch(), names)).member;
-    held.names()->remember(names, id);
+    const DISPID refused = std::exchange(id, ask(callee.object, names)).member;
+    callee.names->remember(names, id);
     if (id.member != refused) status = call();
   }
   check(status);
-  if (!result || !held.names()) return;
+  if (!result || !callee.names) return;
   // Arguments beyond those of a property go to the default member of what it answers.
   const bool goes_on = id.answer && parameters.cArgs > static_cast<UINT>(id.parameters);
-  result->set_type(goes_on ? id.answer->element() : id.answer, held.names()->types());
+  result->set_type(goes_on ? id.answer->element() : id.answer, callee.names->types());
 }
 
 // Named arguments stand before the positional ones, which stand last to first.
-void invoke(const AutomationObject& holder, const wchar_t* name, WORD flags, Arguments arguments,
-            Result* result) {
-  if (!holder) throw_runtime_error(runtime_error::object_required);
+void invoke(const Callee& callee, const wchar_t* name, WORD flags, Arguments arguments, Result* result) {
+  if (!callee.object) throw_runtime_error(runtime_error::object_required);
   std::array<const wchar_t*, max_named_arguments + 1> names{name};
   std::array<VARIANT, max_arguments> values;
   if (arguments.size() > max_arguments) throw_hresult(DISP_E_BADPARAMCOUNT);
@@ -104,7 +100,7 @@ void invoke(const AutomationObject& holder, const wchar_t* name, WORD flags, Arg
     if (!argument.name()) values[count++] = argument.value();
   }
   DISPPARAMS parameters{values.data(), nullptr, count, named};
-  invoke(holder, Names(names.data(), named + 1), flags, parameters, result);
+  invoke(callee, Names(names.data(), named + 1), flags, parameters, result);
 }
 
 ComPtr<IDispatch> created(const CLSID& class_id) {
@@ -123,6 +119,24 @@ CLSID class_of(const wchar_t* program_id) {
 
 }  // namespace
 
+Result Callee::get(const wchar_t* name, Arguments arguments) const {
+  Result result;
+  invoke(*this, name, DISPATCH_METHOD | DISPATCH_PROPERTYGET, arguments, &result);
+  return result;
+}
+
+void Callee::put(const wchar_t* name, const Argument& value) const {
+  if (!object) throw_runtime_error(runtime_error::object_required);
+  VARIANT stored = value.value();
+  DISPID property_put = DISPID_PROPERTYPUT;
+  DISPPARAMS parameters{&stored, &property_put, 1, 1};
+  invoke(*this, Names(&name, 1), DISPATCH_PROPERTYPUT, parameters, nullptr);
+}
+
+void Callee::call(const wchar_t* name, Arguments arguments) const {
+  invoke(*this, name, DISPATCH_METHOD, arguments, nullptr);
+}
+
 AutomationObject::AutomationObject(IDispatch* object)
     : AutomationObject(ComPtr<IDispatch>(object), MemberNames::of_object(nullptr, nullptr)) {}
 
@@ -130,7 +144,7 @@ AutomationObject AutomationObject::create(const wchar_t* program_id) { return cr
 
 AutomationObject AutomationObject::create(const CLSID& class_id) {
   AutomationObject root(created(class_id).get());
-  if (const auto type = PublishedTypes::of_root(root.dispatch(), *root.names_.get())) root.names_ = type;
+  if (const auto type = PublishedTypes::of_root(root.object_.get(), *root.names_.get())) root.names_ = type;
   return root;
 }
 
@@ -141,24 +155,20 @@ AutomationObject AutomationObject::create_untyped(const wchar_t* program_id) {
 AutomationObject AutomationObject::known_as(const wchar_t* class_name) const {
   PublishedTypes* const types = names_ ? names_->types() : nullptr;
   MemberNames* const type = types ? types->type(class_name) : nullptr;
-  return type ? AutomationObject(object_, ComPtr<MemberNames>(type)) : *this;
+  if (!type) return *this;
+  if (!names_->is_of_one_object()) return AutomationObject(object_, ComPtr<MemberNames>(type));
+  names_->declare(type);
+  return *this;
 }
 
-void AutomationObject::keep_names() {
+AutomationObject AutomationObject::keeping_names() && {
   if (names_ && !names_->is_of_one_object()) names_ = MemberNames::of_object(names_->types(), names_.get());
+  return std::move(*this);
 }
-
-KeptObject::KeptObject(AutomationObject object) : AutomationObject(std::move(object)) { keep_names(); }
 
 const AutomationObject& AutomationObject::typed() const {
   if (!object_) throw_runtime_error(runtime_error::object_variable_not_set);
   return *this;
-}
-
-Result AutomationObject::get_with(const wchar_t* name, Arguments arguments) const {
-  Result result;
-  invoke(*this, name, DISPATCH_METHOD | DISPATCH_PROPERTYGET, arguments, &result);
-  return result;
 }
 
 Result AutomationObject::get_common(const wchar_t* name) const {
@@ -168,27 +178,18 @@ Result AutomationObject::get_common(const wchar_t* name) const {
   return get(name);
 }
 
-void AutomationObject::call_with(const wchar_t* name, Arguments arguments) const {
-  invoke(*this, name, DISPATCH_METHOD, arguments, nullptr);
-}
-
-void AutomationObject::put(const wchar_t* name, const Argument& value) const {
-  if (!object_) throw_runtime_error(runtime_error::object_required);
-  VARIANT stored = value.value();
-  DISPID property_put = DISPID_PROPERTYPUT;
-  DISPPARAMS parameters{&stored, &property_put, 1, 1};
-  invoke(*this, Names(&name, 1), DISPATCH_PROPERTYPUT, parameters, nullptr);
-}
-
-ComPtr<IDispatch> Result::dispatch() const {
+IDispatch* Result::dispatch(ComPtr<IDispatch>& room) const {
   const VARIANT& value = value_.get();
-  if (V_VT(&value) != VT_DISPATCH && V_VT(&value) != VT_UNKNOWN)
-    throw_runtime_error(runtime_error::object_required);
-  if (!V_UNKNOWN(&value)) return {};
-  if (V_VT(&value) == VT_DISPATCH) return ComPtr<IDispatch>(V_DISPATCH(&value));
-  ComPtr<IDispatch> object;
-  check(V_UNKNOWN(&value)->QueryInterface(IID_IDispatch, object.receive_void()));
-  return object;
+  if (V_VT(&value) == VT_DISPATCH) return V_DISPATCH(&value);
+  if (V_VT(&value) != VT_UNKNOWN) throw_runtime_error(runtime_error::object_required);
+  if (V_UNKNOWN(&value)) check(V_UNKNOWN(&value)->QueryInterface(IID_IDispatch, room.receive_void()));
+  return room.get();
+}
+
+Callee Result::callee(ComPtr<IDispatch>& room) const {
+  IDispatch* const object = dispatch(room);
+  if (!object) throw_runtime_error(runtime_error::object_variable_not_set);
+  return {object, type_.get()};
 }
 
 AutomationObject Result::object() const {
@@ -198,15 +199,11 @@ AutomationObject Result::object() const {
 }
 
 AutomationObject Result::object_or_nothing() const {
-  ComPtr<IDispatch> object = dispatch();
+  ComPtr<IDispatch> room;
+  IDispatch* const object = dispatch(room);
   if (!object) return {};
-  return AutomationObject(std::move(object), type_ ? type_ : MemberNames::of_object(types_.get(), nullptr));
-}
-
-AutomationObject Result::passing() const {
-  ComPtr<IDispatch> object = dispatch();
-  if (!object) throw_runtime_error(runtime_error::object_variable_not_set);
-  return AutomationObject(std::move(object), type_);
+  return AutomationObject(ComPtr<IDispatch>(object),
+                          type_ ? type_ : MemberNames::of_object(types_.get(), nullptr));
 }
 
 Variant Result::converted_to(VARTYPE type) const {
@@ -214,7 +211,8 @@ Variant Result::converted_to(VARTYPE type) const {
   const Result* source = this;
   if (value_.type() == VT_DISPATCH) {
     DISPPARAMS none{};
-    invoke(object().dispatch(), DISPID_VALUE, DISPATCH_METHOD | DISPATCH_PROPERTYGET, none,
+    ComPtr<IDispatch> room;
+    invoke(callee(room).object, DISPID_VALUE, DISPATCH_METHOD | DISPATCH_PROPERTYGET, none,
            default_property.receive());
     source = &default_property;
   }
@@ -241,6 +239,9 @@ LONG Result::int32() const {
 }
 
 SHORT Result::int16() const {
+  const VARIANT& value = value_.get();
+  if (V_VT(&value) == VT_I4 && V_I4(&value) == static_cast<SHORT>(V_I4(&value)))
+    return static_cast<SHORT>(V_I4(&value));
   Variant room;
   return V_I2(&as(VT_I2, room));
 }
@@ -264,17 +265,17 @@ Enumerator::Enumerator(const AutomationObject& collection) {
   if (!collection) throw_runtime_error(runtime_error::object_required);
   Result enumerator;
   DISPPARAMS none{};
-  invoke(collection.dispatch(), DISPID_NEWENUM, DISPATCH_METHOD | DISPATCH_PROPERTYGET, none,
-         enumerator.receive());
+  const Callee callee = collection.callee();
+  invoke(callee.object, DISPID_NEWENUM, DISPATCH_METHOD | DISPATCH_PROPERTYGET, none, enumerator.receive());
   const VARIANT& value = enumerator.value();
   if (V_VT(&value) != VT_UNKNOWN && V_VT(&value) != VT_DISPATCH) throw_hresult(DISP_E_NOTACOLLECTION);
   if (!V_UNKNOWN(&value)) throw_runtime_error(runtime_error::object_variable_not_set);
   if (FAILED(V_UNKNOWN(&value)->QueryInterface(IID_IEnumVARIANT, elements_.receive_void()))) {
     throw_hresult(DISP_E_NOTACOLLECTION);
   }
-  if (!collection.names()) return;
-  type_ = ComPtr<MemberNames>(collection.names()->element());
-  types_ = ComPtr<PublishedTypes>(collection.names()->types());
+  if (!callee.names) return;
+  type_ = ComPtr<MemberNames>(callee.names->element());
+  types_ = ComPtr<PublishedTypes>(callee.names->types());
 }
 
 bool Enumerator::next(Result& element) const {

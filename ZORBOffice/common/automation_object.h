@@ -18,6 +18,17 @@ namespace zorboffice {
 
 class Result;
 
+// An object for the length of one call, and what is known of its members. Whoever makes it holds both. Every
+// operation throws Failure.
+struct Callee {
+  IDispatch* object;   // null: "Object required"
+  MemberNames* names;  // null where nothing is to be kept
+
+  Result get(const wchar_t* name, std::initializer_list<Argument> arguments) const;
+  void put(const wchar_t* name, const Argument& value) const;
+  void call(const wchar_t* name, std::initializer_list<Argument> arguments) const;
+};
+
 // Arguments are positional unless named; positional ones come first. Every operation throws Failure.
 class AutomationObject {
  public:
@@ -44,12 +55,12 @@ class AutomationObject {
   Result get_common(const wchar_t* name) const;
 
   // Writes a property; the value keeps its variant kind.
-  void put(const wchar_t* name, const Argument& value) const;
+  void put(const wchar_t* name, const Argument& value) const { callee().put(name, value); }
 
   // Calls a method and takes no result.
   template <std::convertible_to<Argument>... Arguments>
   void call(const wchar_t* name, Arguments&&... arguments) const {
-    call_with(name, {Argument(arguments)...});
+    callee().call(name, {Argument(arguments)...});
   }
 
   // Calls visit with every element of a collection, in the collection's order.
@@ -61,7 +72,7 @@ class AutomationObject {
   const AutomationObject& typed() const;
 
   explicit operator bool() const { return static_cast<bool>(object_); }
-  bool operator==(const AutomationObject& other) const { return dispatch() == other.dispatch(); }
+  bool operator==(const AutomationObject& other) const { return object_.get() == other.object_.get(); }
   IDispatch* dispatch() const { return object_.get(); }  // not counted
 
   // This object as a variable that a call gets by reference: the called side may put another object into it,
@@ -71,31 +82,35 @@ class AutomationObject {
     return object_.receive();
   }
 
-  // What is known of its members; null for nothing, and where nothing is to be kept.
-  MemberNames* names() const { return names_.get(); }
-
- protected:
-  // Lets this object keep what it says of its members beside what its type's library says.
-  void keep_names();
+  // This object, which keeps what it says of its members beside what its type's library says.
+  AutomationObject keeping_names() &&;
 
  private:
+  friend class Enumerator;
   friend class Result;
 
   AutomationObject(ComPtr<IDispatch> object, ComPtr<MemberNames> names)
       : object_(std::move(object)), names_(std::move(names)) {}
 
-  Result get_with(const wchar_t* name, std::initializer_list<Argument> arguments) const;
-  void call_with(const wchar_t* name, std::initializer_list<Argument> arguments) const;
+  Callee callee() const { return {object_.get(), names_.get()}; }
 
   ComPtr<IDispatch> object_;
   ComPtr<MemberNames> names_;
 };
 
-// An object that a control keeps from call to call, with what the object says of its members.
-class KeptObject : public AutomationObject {
+// An object that a control keeps from call to call, with what the object says of its members. A member works
+// on a reference of its own: while an office call waits, the host may run a member that replaces the field.
+class KeptObject {
  public:
   KeptObject() = default;
-  KeptObject(AutomationObject object);
+  KeptObject(AutomationObject object) : object_(std::move(object).keeping_names()) {}
+
+  operator AutomationObject() const { return object_; }
+  AutomationObject typed() const { return object_.typed(); }
+  bool operator==(const AutomationObject& other) const { return object_ == other; }
+
+ private:
+  AutomationObject object_;
 };
 
 // What a get returned.
@@ -120,16 +135,21 @@ class Result {
   DATE date() const;
   bool flag() const;  // null counts as false
 
-  // Chains go on without a step between.
+  // Chains go on without a step between, and keep nothing of what an object says of its members.
   template <class... Arguments>
   Result get(const wchar_t* name, Arguments&&... arguments) const {
-    return passing().get(name, arguments...);
+    ComPtr<IDispatch> room;
+    return callee(room).get(name, {Argument(arguments)...});
   }
   template <class... Arguments>
   void call(const wchar_t* name, Arguments&&... arguments) const {
-    passing().call(name, arguments...);
+    ComPtr<IDispatch> room;
+    callee(room).call(name, {Argument(arguments)...});
   }
-  void put(const wchar_t* name, const Argument& value) const { passing().put(name, value); }
+  void put(const wchar_t* name, const Argument& value) const {
+    ComPtr<IDispatch> room;
+    callee(room).put(name, value);
+  }
 
   const VARIANT& value() const { return value_.get(); }
   VARIANT* receive() { return value_.receive(); }
@@ -138,7 +158,7 @@ class Result {
   // null.
   void set_type(MemberNames* type, PublishedTypes* types) {
     type_ = ComPtr<MemberNames>(type);
-    types_ = ComPtr<PublishedTypes>(types);
+    types_ = ComPtr<PublishedTypes>(type ? nullptr : types);
   }
 
  private:
@@ -148,15 +168,15 @@ class Result {
   // long as all the rest of a step.
   const VARIANT& as(VARTYPE type, Variant& room) const;
 
-  // Counted, and null for Nothing; "Object required" where it holds none.
-  ComPtr<IDispatch> dispatch() const;
+  // Null for Nothing; "Object required" where it holds none. room holds it where this does not.
+  IDispatch* dispatch(ComPtr<IDispatch>& room) const;
 
-  // The object for one step only: what it says of its members is not kept.
-  AutomationObject passing() const;
+  // The object for one step: "Object variable … not set" where it is Nothing.
+  Callee callee(ComPtr<IDispatch>& room) const;
 
   Variant value_;
   ComPtr<MemberNames> type_;
-  ComPtr<PublishedTypes> types_;
+  ComPtr<PublishedTypes> types_;  // where there is no type
 };
 
 // Walks a collection as For Each does, one element a step.
@@ -176,7 +196,7 @@ class Enumerator {
 
 template <std::convertible_to<Argument>... Arguments>
 Result AutomationObject::get(const wchar_t* name, Arguments&&... arguments) const {
-  return get_with(name, {Argument(arguments)...});
+  return callee().get(name, {Argument(arguments)...});
 }
 
 template <class Visit>

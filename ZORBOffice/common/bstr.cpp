@@ -1,5 +1,7 @@
 #include "ZORBOffice/common/bstr.h"
 
+#include <charconv>
+#include <iterator>
 #include <new>
 
 namespace zorboffice {
@@ -9,11 +11,9 @@ Bstr::Bstr(std::wstring_view text) : text_(SysAllocStringLen(text.data(), static
 }
 
 Bstr decimal(LONG number) {
-  Bstr digits;
-  // The neutral locale: no user's settings change the digits or the sign.
-  if (FAILED(VarBstrFromI4(number, LOCALE_INVARIANT, LOCALE_NOUSEROVERRIDE, digits.receive())))
-    throw std::bad_alloc();
-  return digits;
+  char digits[12];
+  const auto written = std::to_chars(digits, std::end(digits), number);
+  return Bstr(std::wstring(digits, written.ptr));
 }
 
 std::wstring concatenated(std::initializer_list<std::wstring_view> parts) {

@@ -1,7 +1,6 @@
 #include "ZORBOffice/common/member_names.h"
 
 #include <algorithm>
-#include <cstring>
 #include <optional>
 
 #include "ZORBOffice/common/bstr.h"
@@ -10,17 +9,11 @@
 namespace zorboffice {
 namespace {
 
-struct Measured {
-  std::uint32_t hash;
-  std::size_t length;
-};
-
-// FNV-1a: names are short, and few a type.
-Measured measured(const wchar_t* name) {
-  std::uint32_t hash = 2166136261U;
-  const wchar_t* end = name;
-  for (; *end; ++end) hash = (hash ^ *end) * 16777619U;
-  return {hash, static_cast<std::size_t>(end - name)};
+bool are_equal(const wchar_t* left, const wchar_t* right) {
+  for (; *left == *right; ++left, ++right) {
+    if (!*left) return true;
+  }
+  return false;
 }
 
 // A library that is registered for a running application may be another version's, or damaged: the root
@@ -43,20 +36,18 @@ bool is_confirmed_by(IDispatch* root, MemberNames& root_names, ITypeInfo* type) 
 
 ComPtr<MemberNames> MemberNames::of_object(PublishedTypes* types, MemberNames* type) {
   ComPtr<MemberNames> names;
-  *names.receive() = new MemberNames(types, type);
+  MemberNames* const spare = types ? types->spare_.release() : nullptr;
+  *names.receive() = spare ? spare : new MemberNames(types);
+  names->references_ = 1;
+  names->declared_ = type;
+  if (types) types->AddRef();
   return names;
 }
 
-MemberNames::MemberNames(PublishedTypes* types, MemberNames* type) : types_(types), declared_(type) {
-  if (types_) types_->AddRef();
-}
+MemberNames::MemberNames(PublishedTypes* types) : types_(types) {}
 
 MemberNames::MemberNames(ComPtr<ITypeInfo> type, const GUID& id, PublishedTypes& types)
     : type_(std::move(type)), type_id_(id), types_(&types) {}
-
-MemberNames::~MemberNames() {
-  if (is_of_one_object() && types_) types_->Release();
-}
 
 void MemberNames::AddRef() {
   if (!is_of_one_object()) return types_->AddRef();
@@ -65,7 +56,12 @@ void MemberNames::AddRef() {
 
 void MemberNames::Release() {
   if (!is_of_one_object()) return types_->Release();
-  if (--references_ == 0) delete this;
+  if (--references_ > 0) return;
+  std::unique_ptr<MemberNames> unused(this);
+  if (!types_) return;
+  entries_.clear();
+  types_->spare_.swap(unused);
+  types_->Release();
 }
 
 const MemberId* MemberNames::find(Names names) {
@@ -94,10 +90,8 @@ MemberNames* MemberNames::element() {
 }
 
 MemberNames::Entry* MemberNames::known(Names names) {
-  const auto [hash, length] = measured(names[0]);
   for (Entry& entry : entries_) {
-    if (entry.hash != hash || entry.name_count != names.size() || entry.name.size() != length) continue;
-    if (std::memcmp(entry.name.data(), names[0], length * sizeof(wchar_t)) == 0) return &entry;
+    if (are_equal(entry.name.c_str(), names[0]) && entry.name_count == names.size()) return &entry;
   }
   return nullptr;
 }
@@ -115,7 +109,7 @@ const MemberId* MemberNames::published(Names names) {
 }
 
 const MemberId* MemberNames::add(Names names, const MemberId& id) {
-  entries_.push_back({measured(names[0]).hash, static_cast<UINT>(names.size()), names[0], id});
+  entries_.push_back({static_cast<UINT>(names.size()), names[0], id});
   return &entries_.back().id;
 }
 

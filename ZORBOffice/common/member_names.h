@@ -5,7 +5,6 @@
 #include <oaidl.h>
 
 #include <array>
-#include <cstdint>
 #include <memory>
 #include <optional>
 #include <span>
@@ -48,7 +47,7 @@ class MemberNames {
 
   MemberNames(const MemberNames&) = delete;
   MemberNames& operator=(const MemberNames&) = delete;
-  ~MemberNames();
+  ~MemberNames() = default;
 
   void AddRef();
   void Release();
@@ -58,6 +57,9 @@ class MemberNames {
 
   // Keeps what an object said of itself; nothing is kept of a type.
   void remember(Names names, const MemberId& id);
+
+  // Says what the object is, where this is one object's.
+  void declare(MemberNames* type) { declared_ = type; }
 
   // The type of a collection's elements: what its default member is declared to answer. Null for any object.
   MemberNames* element();
@@ -72,7 +74,6 @@ class MemberNames {
 
  private:
   struct Entry {
-    std::uint32_t hash;
     UINT name_count;
     std::wstring name;
     MemberId id;
@@ -82,13 +83,13 @@ class MemberNames {
   const MemberId* published(Names names);
   const MemberId* add(Names names, const MemberId& id);
 
-  MemberNames(PublishedTypes* types, MemberNames* type);
+  explicit MemberNames(PublishedTypes* types);
 
   ComPtr<ITypeInfo> type_;
   GUID type_id_{};
-  PublishedTypes* types_;  // counted where this is one object's
+  PublishedTypes* types_;  // counted where this is one object's and in use
   MemberNames* declared_ = nullptr;
-  ULONG references_ = 1;
+  ULONG references_ = 0;
   std::vector<Entry> entries_;
   std::optional<MemberNames*> element_;
 };
@@ -121,6 +122,8 @@ class PublishedTypes {
   DISPID common_id(const wchar_t* name);
 
  private:
+  friend class MemberNames;
+
   struct Named {
     std::wstring name;
     MemberNames* type;
@@ -138,6 +141,7 @@ class PublishedTypes {
   std::vector<std::unique_ptr<MemberNames>> types_;
   std::vector<Named> named_;
   std::vector<Common> common_;
+  std::unique_ptr<MemberNames> spare_;  // of an object that is gone: a walk needs one for each item
 };
 
 }  // namespace zorboffice

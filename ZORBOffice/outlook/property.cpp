@@ -21,10 +21,10 @@ constexpr wchar_t date_picture[] = L"dd/MM/yyyy";
 constexpr wchar_t time_picture[] = L"HH:mm:ss";
 
 Bstr joined_values(const AutomationObject& item, const wchar_t* members) {
-  std::wstring joined;
+  std::wstring joined, member;
   for (std::wstring_view rest = members; !rest.empty();) {
     if (rest.data() != members) joined += L' ';
-    const std::wstring member(rest.substr(0, rest.find(L' ')));
+    member = rest.substr(0, rest.find(L' '));
     joined += value_of(item, member.c_str()).text().view();
     rest.remove_prefix(std::min(member.size() + 1, rest.size()));
   }
@@ -109,19 +109,17 @@ const Property* find_readable(std::span<const Property> properties, BSTR key) {
 
 Bstr read_property(std::span<const Property> properties, const AutomationObject& item, BSTR key,
                    const wchar_t* unknown_key) {
-  const AutomationObject held = item;
   const Property* property = find_readable(properties, key);
-  if (property) return property->format->read(held, property->member);
+  if (property) return property->format->read(item, property->member);
   show_message(concatenated({unknown_key, view(key)}));
   return Bstr();
 }
 
 void write_property(std::span<const Property> properties, const AutomationObject& item, BSTR key, BSTR value,
                     const wchar_t* unknown_key) {
-  const AutomationObject held = item;
   const Property* property =
       find(properties, key, [](const Property& row) { return row.conversion != nullptr; });
-  if (property) return property->conversion->write(held, property->member, value);
+  if (property) return property->conversion->write(item, property->member, value);
   show_message(concatenated({unknown_key, view(key)}));
 }
 

@@ -49,8 +49,7 @@ void write_int16(const AutomationObject& item, const wchar_t* member, BSTR value
 const Property* find_readable(std::span<const Property> properties, BSTR key);
 
 // Reads or writes the property of that key. A key that no row has is said in a box, after the lead-in, before
-// the item is looked at; reading it gives "". No item is the failure "Object variable … not set". They hold a
-// reference of their own: while an office call waits, the host may make another item current.
+// the item is looked at; reading it gives "". No item is the failure "Object variable … not set".
 Bstr read_property(std::span<const Property> properties, const AutomationObject& item, BSTR key,
                    const wchar_t* unknown_key);
 void write_property(std::span<const Property> properties, const AutomationObject& item, BSTR key, BSTR value,

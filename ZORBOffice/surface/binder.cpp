@@ -1,7 +1,9 @@
 #include "ZORBOffice/surface/binder.h"
 
 #include <array>
+#include <cstddef>
 #include <cstring>
+#include <memory>
 
 #include "ZORBOffice/common/bstr.h"
 #include "ZORBOffice/common/com_ptr.h"
@@ -48,9 +50,29 @@ struct Binding {
   bool given = false;
 };
 
+// As many as the member has parameters; most have one or two of the fourteen.
+class Bindings {
+ public:
+  explicit Bindings(std::size_t count) : end_(begin() + count) {
+    std::uninitialized_value_construct(begin(), end_);
+  }
+  Bindings(const Bindings&) = delete;
+  Bindings& operator=(const Bindings&) = delete;
+  ~Bindings() { std::destroy(begin(), end_); }
+
+  Binding* begin() { return reinterpret_cast<Binding*>(room_); }
+  Binding* end() { return end_; }
+  Binding& operator[](std::size_t index) { return begin()[index]; }
+
+ private:
+  alignas(Binding) std::byte room_[max_parameters * sizeof(Binding)];
+  Binding* end_;
+};
+
 class Binder {
  public:
-  Binder(const Member& member, LCID locale) : member_(member), locale_(locale) {}
+  Binder(const Member& member, LCID locale)
+      : member_(member), locale_(locale), bindings_(member.parameters.size()) {}
 
   HRESULT bind(DISPPARAMS& parameters, UINT& error) {
     if (parameters.cArgs > member_.parameters.size()) return DISP_E_BADPARAMCOUNT;
@@ -148,7 +170,7 @@ class Binder {
 
   const Member& member_;
   LCID locale_;
-  std::array<Binding, max_parameters> bindings_;
+  Bindings bindings_;
 };
 
 void fill_exception(HRESULT status, EXCEPINFO& exception) {
