@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <utility>
 
+#include "ZORBOffice/common/busy_server.h"
 #include "ZORBOffice/common/failure.h"
 
 namespace zorboffice {
@@ -20,10 +21,11 @@ void forget_earlier_failure() { SetErrorInfo(0, nullptr); }
 MemberId ask(IDispatch* object, Names names) {
   std::array<DISPID, max_named_arguments + 1> ids;
   ids.fill(DISPID_UNKNOWN);
-  forget_earlier_failure();
-  const HRESULT result =
-      object->GetIDsOfNames(IID_NULL, const_cast<LPOLESTR*>(names.data()), static_cast<UINT>(names.size()),
-                            LOCALE_USER_DEFAULT, ids.data());
+  const HRESULT result = until_taken([&] {
+    forget_earlier_failure();
+    return object->GetIDsOfNames(IID_NULL, const_cast<LPOLESTR*>(names.data()),
+                                 static_cast<UINT>(names.size()), LOCALE_USER_DEFAULT, ids.data());
+  });
   if (result == DISP_E_UNKNOWNNAME && ids[0] != DISPID_UNKNOWN) {
     throw_runtime_error(runtime_error::named_argument_not_found);
   }
@@ -45,11 +47,13 @@ MemberId look_up(const Callee& callee, Names names, bool& was_known) {
 }
 
 HRESULT try_to_invoke(IDispatch* object, DISPID member, WORD flags, DISPPARAMS& parameters, VARIANT* result) {
-  forget_earlier_failure();
   EXCEPINFO information{};
   UINT argument = 0;
-  const HRESULT status = object->Invoke(member, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, result,
-                                        &information, &argument);
+  const HRESULT status = until_taken([&] {
+    forget_earlier_failure();
+    return object->Invoke(member, IID_NULL, LOCALE_USER_DEFAULT, flags, &parameters, result, &information,
+                          &argument);
+  });
   if (status == DISP_E_EXCEPTION) throw_exception_info(information);
   return status;
 }
@@ -104,9 +108,11 @@ void invoke(const Callee& callee, const wchar_t* name, WORD flags, Arguments arg
 }
 
 ComPtr<IDispatch> created(const CLSID& class_id) {
-  forget_earlier_failure();
   ComPtr<IDispatch> root;
-  check(CoCreateInstance(class_id, nullptr, CLSCTX_SERVER, IID_IDispatch, root.receive_void()));
+  check(until_taken([&] {
+    forget_earlier_failure();
+    return CoCreateInstance(class_id, nullptr, CLSCTX_SERVER, IID_IDispatch, root.receive_void());
+  }));
   return root;
 }
 
@@ -182,7 +188,8 @@ IDispatch* Result::dispatch(ComPtr<IDispatch>& room) const {
   const VARIANT& value = value_.get();
   if (V_VT(&value) == VT_DISPATCH) return V_DISPATCH(&value);
   if (V_VT(&value) != VT_UNKNOWN) throw_runtime_error(runtime_error::object_required);
-  if (V_UNKNOWN(&value)) check(V_UNKNOWN(&value)->QueryInterface(IID_IDispatch, room.receive_void()));
+  if (V_UNKNOWN(&value))
+    check(until_taken([&] { return V_UNKNOWN(&value)->QueryInterface(IID_IDispatch, room.receive_void()); }));
   return room.get();
 }
 
@@ -270,9 +277,9 @@ Enumerator::Enumerator(const AutomationObject& collection) {
   const VARIANT& value = enumerator.value();
   if (V_VT(&value) != VT_UNKNOWN && V_VT(&value) != VT_DISPATCH) throw_hresult(DISP_E_NOTACOLLECTION);
   if (!V_UNKNOWN(&value)) throw_runtime_error(runtime_error::object_variable_not_set);
-  if (FAILED(V_UNKNOWN(&value)->QueryInterface(IID_IEnumVARIANT, elements_.receive_void()))) {
-    throw_hresult(DISP_E_NOTACOLLECTION);
-  }
+  const HRESULT asked = until_taken(
+      [&] { return V_UNKNOWN(&value)->QueryInterface(IID_IEnumVARIANT, elements_.receive_void()); });
+  if (FAILED(asked)) throw_hresult(asked == E_NOINTERFACE ? DISP_E_NOTACOLLECTION : asked);
   if (!callee.names) return;
   type_ = ComPtr<MemberNames>(callee.names->element());
   types_ = ComPtr<PublishedTypes>(callee.names->types());
@@ -281,8 +288,10 @@ Enumerator::Enumerator(const AutomationObject& collection) {
 bool Enumerator::next(Result& element) const {
   Result following;
   ULONG fetched = 0;
-  forget_earlier_failure();
-  const HRESULT status = elements_->Next(1, following.receive(), &fetched);
+  const HRESULT status = until_taken([&] {
+    forget_earlier_failure();
+    return elements_->Next(1, following.receive(), &fetched);
+  });
   check(status);
   if (status != S_OK || fetched != 1) return false;
   following.set_type(type_.get(), types_.get());

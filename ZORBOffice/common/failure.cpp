@@ -7,12 +7,14 @@
 namespace zorboffice {
 namespace {
 
-struct RuntimeText {
+struct OwnText {
   LONG number;
   const wchar_t* text;
 };
 
-constexpr RuntimeText runtime_texts[] = {
+// Of the Basic runtime's numbers, and of the codes with which a call into another process fails, for which
+// some systems have no text.
+constexpr OwnText own_texts[] = {
     {5, L"Invalid procedure call or argument"},
     {6, L"Overflow"},
     {7, L"Out of memory"},
@@ -37,6 +39,26 @@ constexpr RuntimeText runtime_texts[] = {
     {451, L"Object not a collection"},
     {458, L"Variable uses an Automation type not supported"},
     {462, L"The remote server machine does not exist or is unavailable"},
+    {RPC_E_CALL_REJECTED, L"Call was rejected by callee."},
+    {RPC_E_CALL_CANCELED, L"Call was canceled by the message filter."},
+    {RPC_E_CONNECTION_TERMINATED,
+     L"The connection terminated or is in a bogus state and cannot be used any more. Other connections are "
+     L"still valid."},
+    {RPC_E_SERVER_DIED,
+     L"The callee (server [not server application]) is not available and disappeared; all connections are "
+     L"invalid. The call may have executed."},
+    {RPC_E_SERVER_DIED_DNE,
+     L"The callee (server [not server application]) is not available and disappeared; all connections are "
+     L"invalid. The call did not execute."},
+    {RPC_E_SYS_CALL_FAILED, L"System call failed."},
+    {RPC_E_SERVERFAULT, L"The server threw an exception."},
+    {RPC_E_DISCONNECTED, L"The object invoked has disconnected from its clients."},
+    {RPC_E_SERVERCALL_RETRYLATER, L"The message filter indicated that the application is busy."},
+    {RPC_E_SERVERCALL_REJECTED, L"The message filter rejected the call."},
+    {RPC_E_CANTCALLOUT_ININPUTSYNCCALL,
+     L"An outgoing call cannot be made since the application is dispatching an input-synchronous call."},
+    {RPC_E_WRONG_THREAD, L"The application called an interface that was marshalled for a different thread."},
+    {CO_E_OBJNOTCONNECTED, L"Object is not connected to server"},
 };
 
 struct RuntimeNumber {
@@ -79,8 +101,8 @@ constexpr RuntimeNumber runtime_numbers[] = {
 // The numbers of a Basic runtime, which travel as 0x800Axxxx.
 constexpr bool is_runtime_number(LONG number) { return number > 0 && number <= 0xFFFF; }
 
-const wchar_t* runtime_text(LONG number) {
-  for (const RuntimeText& row : runtime_texts) {
+const wchar_t* own_text(LONG number) {
+  for (const OwnText& row : own_texts) {
     if (row.number == number) return row.text;
   }
   return nullptr;
@@ -104,17 +126,16 @@ Bstr system_text(LONG number) {
 // The text of a failure that came without one.
 Bstr text_for(LONG number) {
   if (Bstr text = thread_error_text(); !text.view().empty()) return text;
-  if (is_runtime_number(number)) {
-    if (const wchar_t* text = runtime_text(number)) return Bstr(text);
-  } else if (Bstr text = system_text(number); !text.view().empty()) {
-    return text;
+  if (!is_runtime_number(number)) {
+    if (Bstr text = system_text(number); !text.view().empty()) return text;
   }
-  return Bstr(runtime_text(runtime_error::automation_error));
+  const wchar_t* const text = own_text(number);
+  return Bstr(text ? text : own_text(runtime_error::automation_error));
 }
 
 }  // namespace
 
-void throw_runtime_error(LONG number) { throw Failure{number, Bstr(runtime_text(number))}; }
+void throw_runtime_error(LONG number) { throw Failure{number, Bstr(own_text(number))}; }
 
 void throw_hresult(HRESULT result) {
   for (const RuntimeNumber& row : runtime_numbers) {
@@ -146,10 +167,10 @@ Failure current_failure() noexcept {
   } catch (const std::bad_alloc&) {
     // Without memory there is no copy of the text either; an empty one is shown.
     return {runtime_error::out_of_memory,
-            Bstr::adopt(SysAllocString(runtime_text(runtime_error::out_of_memory)))};
+            Bstr::adopt(SysAllocString(own_text(runtime_error::out_of_memory)))};
   } catch (...) {
     return {runtime_error::automation_error,
-            Bstr::adopt(SysAllocString(runtime_text(runtime_error::automation_error)))};
+            Bstr::adopt(SysAllocString(own_text(runtime_error::automation_error)))};
   }
 }
 

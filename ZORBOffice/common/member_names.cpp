@@ -4,6 +4,7 @@
 #include <optional>
 
 #include "ZORBOffice/common/bstr.h"
+#include "ZORBOffice/common/busy_server.h"
 #include "ZORBOffice/common/type_descriptions.h"
 
 namespace zorboffice {
@@ -26,7 +27,8 @@ bool is_confirmed_by(IDispatch* root, MemberNames& root_names, ITypeInfo* type) 
   if (!first_member(type, published)) return false;
   if (FAILED(type->GetNames(published, name.receive(), 1, &count)) || count != 1) return false;
   LPOLESTR asked = name.get();
-  if (FAILED(root->GetIDsOfNames(IID_NULL, &asked, 1, LOCALE_USER_DEFAULT, &own))) return false;
+  const auto ask = [&] { return root->GetIDsOfNames(IID_NULL, &asked, 1, LOCALE_USER_DEFAULT, &own); };
+  if (FAILED(until_taken(ask))) return false;
   const wchar_t* const names[] = {asked};
   if (own != published) root_names.remember(names, MemberId{own});
   return own == published;
@@ -115,7 +117,8 @@ const MemberId* MemberNames::add(Names names, const MemberId& id) {
 
 ComPtr<MemberNames> PublishedTypes::of_root(IDispatch* root, MemberNames& root_names) {
   ComPtr<ITypeInfo> own;
-  if (FAILED(root->GetTypeInfo(0, LOCALE_USER_DEFAULT, own.receive())) || !own) return {};
+  const auto ask = [&] { return root->GetTypeInfo(0, LOCALE_USER_DEFAULT, own.receive()); };
+  if (FAILED(until_taken(ask)) || !own) return {};
   const std::optional<GUID> id = type_id(own.get());
   const ComPtr<ITypeLib> library = registered_library(own.get());
   ComPtr<ITypeInfo> type;

@@ -1,6 +1,7 @@
 #include "ZORBOffice/common/type_descriptions.h"
 
 #include "ZORBOffice/common/bstr.h"
+#include "ZORBOffice/common/busy_server.h"
 
 namespace zorboffice {
 namespace {
@@ -12,7 +13,7 @@ constexpr int longest_way = 8;
 class Attributes {
  public:
   explicit Attributes(ITypeInfo* type) : type_(type) {
-    if (FAILED(type->GetTypeAttr(&attributes_))) attributes_ = nullptr;
+    if (FAILED(until_taken([&] { return type->GetTypeAttr(&attributes_); }))) attributes_ = nullptr;
   }
   ~Attributes() {
     if (attributes_) type_->ReleaseTypeAttr(attributes_);
@@ -153,8 +154,9 @@ ComPtr<ITypeLib> registered_library(ITypeInfo* type) {
   ComPtr<ITypeLib> own;
   UINT index = 0;
   TLIBATTR* about = nullptr;
-  if (FAILED(type->GetContainingTypeLib(own.receive(), &index)) || !own) return {};
-  if (FAILED(own->GetLibAttr(&about)) || !about) return {};
+  if (FAILED(until_taken([&] { return type->GetContainingTypeLib(own.receive(), &index); })) || !own)
+    return {};
+  if (FAILED(until_taken([&] { return own->GetLibAttr(&about); })) || !about) return {};
   const TLIBATTR library = *about;
   own->ReleaseTLibAttr(about);
   ComPtr<ITypeLib> loaded;

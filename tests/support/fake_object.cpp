@@ -76,7 +76,12 @@ class FakeEnumerator final : public Recorded<IEnumVARIANT> {
                  std::vector<const char*> items)
       : Recorded(office, name), element_(element), items_(std::move(items)) {}
 
+  HRESULT WINAPI QueryInterface(REFIID iid, void** object) override {
+    if (const HRESULT turned_away = office_.gate(); FAILED(turned_away)) return turned_away;
+    return Recorded::QueryInterface(iid, object);
+  }
   HRESULT WINAPI Next(ULONG count, VARIANT* values, ULONG* fetched) override {
+    if (const HRESULT turned_away = office_.gate(); FAILED(turned_away)) return turned_away;
     if (const HRESULT failed = office_.step("next " + name_); FAILED(failed)) return failed;
     ULONG given = 0;
     for (; given < count && position_ < items_.size(); ++given)
@@ -111,11 +116,13 @@ class FakeObject final : public Recorded<IDispatch> {
     return refused == office_.refused.end() ? S_OK : refused->second;
   }
   HRESULT WINAPI GetTypeInfo(UINT, LCID, ITypeInfo** information) override {
+    if (const HRESULT turned_away = office_.gate(); FAILED(turned_away)) return turned_away;
     *information = published().Detach();
     return *information ? S_OK : E_NOTIMPL;
   }
   HRESULT WINAPI GetIDsOfNames(REFIID iid, LPOLESTR* asked, UINT count, LCID, DISPID* identifiers) override {
     if (iid != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
+    if (const HRESULT turned_away = office_.gate(); FAILED(turned_away)) return turned_away;
     const auto name = utf8(asked[0]);
     // The first name is what a session's root object is asked, to see whether the library is its own.
     const bool is_first = name == model_names().front() || refused_.contains(name);
@@ -135,6 +142,7 @@ class FakeObject final : public Recorded<IDispatch> {
   }
   HRESULT WINAPI Invoke(DISPID member, REFIID, LCID, WORD flags, DISPPARAMS* parameters, VARIANT* result,
                         EXCEPINFO* info, UINT*) override {
+    if (const HRESULT turned_away = office_.gate(); FAILED(turned_away)) return turned_away;
     const std::string own_name = name_of(member), path = name_ + "." + own_name;
     EXPECT_NE(own_name, "") << name_ << " was called by another object's number";
     if (const auto refused = office_.refused.find(path); refused != office_.refused.end())

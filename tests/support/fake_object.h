@@ -45,6 +45,8 @@ class FakeOffice {
   // The step that fails with `failure`, counted in lines of the log from 1; 0 for none.
   size_t fail_at = 0;
   Failure failure = {DISP_E_EXCEPTION, 0x800A1735, 0, L"No such member."};
+  // Asked before each trip to the office, which it turns away with a failure: then nothing runs.
+  std::function<HRESULT()> gate = [] { return S_OK; };
   // Whether numbers and texts that are passed by reference come back changed, the numbers ten times as large.
   bool writes = false;
   // One line a step: "get|call|put|next|create Object.Member(arguments)".

@@ -91,6 +91,7 @@ HRESULT FakeClass::QueryInterface(REFIID iid, void** object) {
 
 HRESULT FakeClass::CreateInstance(IUnknown*, REFIID iid, void** object) {
   *object = nullptr;
+  if (const HRESULT turned_away = office_.gate(); FAILED(turned_away)) return turned_away;
   if (const HRESULT failed = office_.step("create " + label_); FAILED(failed)) return failed;
   IDispatch* created = office_.make(object_);
   const HRESULT result = created->QueryInterface(iid, object);

@@ -113,6 +113,15 @@ const std::pair<Failure, const char*> told[] = {
     {{DISP_E_NOTACOLLECTION}, "451 :  Object not a collection"},
     {{DISP_E_BADVARTYPE}, "458 :  Variable uses an Automation type not supported"},
     {{static_cast<HRESULT>(0x800706BA)}, "462 :  The remote server machine does not exist or is unavailable"},
+    // What may have run is not tried again: a second attempt would not fail.
+    {{DISP_E_EXCEPTION, 0x80010001}, "-2147418111 :  Call was rejected by callee."},
+    {{DISP_E_EXCEPTION, 0x8001010A},
+     "-2147417846 :  The message filter indicated that the application is busy."},
+    {{RPC_E_SERVERCALL_REJECTED}, "-2147417845 :  The message filter rejected the call."},
+    {{RPC_E_CALL_CANCELED}, "-2147418110 :  Call was canceled by the message filter."},
+    {{RPC_E_SERVERFAULT}, "-2147417851 :  The server threw an exception."},
+    {{RPC_E_DISCONNECTED}, "-2147417848 :  The object invoked has disconnected from its clients."},
+    {{static_cast<HRESULT>(0x800706BE)}, "-2147023170 :  RPC call failed."},  // Wine's words
 };
 
 using Failures = WordTest;
