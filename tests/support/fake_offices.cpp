@@ -51,12 +51,13 @@ void teach_word(FakeOffice& office) {
 }  // namespace
 
 FakeClass::FakeClass(FakeOffice& office, const CLSID& class_id, const std::string& label, const char* object,
-                     bool named)
+                     Serving serving)
     : office_(office), label_(label), object_(object) {
   CoInitialize(nullptr);
   CoRegisterClassObject(class_id, static_cast<IClassFactory*>(this),
-                        CLSCTX_INPROC_SERVER | CLSCTX_LOCAL_SERVER, REGCLS_MULTIPLEUSE, &registration_);
-  if (!named) return;
+                        CLSCTX_LOCAL_SERVER | (serving == Serving::others ? 0 : CLSCTX_INPROC_SERVER),
+                        serving == Serving::others ? REGCLS_SINGLEUSE : REGCLS_MULTIPLEUSE, &registration_);
+  if (serving != Serving::named) return;
   program_key_ = L"Software\\Classes\\" + std::wstring(label.begin(), label.end());
   wchar_t own[64] = {}, earlier[64] = {};
   StringFromGUID2(class_id, own, 64);
@@ -99,11 +100,13 @@ HRESULT FakeClass::CreateInstance(IUnknown*, REFIID iid, void** object) {
   return result;
 }
 
-FakeWord::FakeWord() : class_(*this, word_id, "Word.Application", "Application") { teach_word(*this); }
+FakeWord::FakeWord(Serving serving) : class_(*this, word_id, "Word.Application", "Application", serving) {
+  teach_word(*this);
+}
 
-FakeSuite::FakeSuite(bool named)
-    : manager_(*this, manager_id, "com.sun.star.ServiceManager", "Application", named),
-      global_(*this, global_id, "Global", "Global", false) {
+FakeSuite::FakeSuite(Serving serving)
+    : manager_(*this, manager_id, "com.sun.star.ServiceManager", "Application", serving),
+      global_(*this, global_id, "Global", "Global", Serving::unnamed) {
   teach_word(*this);
   publishes = false;
   objects.insert({"GetSelection", "GetText", "createSearchDescriptor"});
@@ -121,7 +124,8 @@ FakeSuite::FakeSuite(bool named)
   });
 }
 
-FakeOutlook::FakeOutlook() : class_(*this, outlook_id, "Outlook.Application", "Application") {
+FakeOutlook::FakeOutlook(Serving serving)
+    : class_(*this, outlook_id, "Outlook.Application", "Application", serving) {
   objects = {"Attachments", "Exceptions"};
   answers = {
       {"Application.GetNamespace", {.object = "NameSpace"}},

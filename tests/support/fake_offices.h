@@ -5,11 +5,13 @@
 
 // While one lives, every creation of the class in this apartment gives a new object of the office, called
 // `object`: a step "create LABEL", which fails as any other. Where it is `named`, its label is its program
-// identifier; the machine's own classes are put back at the end.
+// identifier; the machine's own classes are put back at the end. A process that serves others gives one
+// object.
+enum class Serving { named, unnamed, others };
 class FakeClass : private IClassFactory {
  public:
   FakeClass(FakeOffice& office, const CLSID& class_id, const std::string& label, const char* object,
-            bool named = true);
+            Serving serving = Serving::named);
   ~FakeClass();
   FakeClass(const FakeClass&) = delete;
 
@@ -29,7 +31,7 @@ class FakeClass : private IClassFactory {
 
 // "Word.Application", with as much of the object model behind it as the members use.
 struct FakeWord : FakeOffice {
-  FakeWord();
+  explicit FakeWord(Serving serving = Serving::named);
   FakeClass class_;
 };
 
@@ -38,7 +40,7 @@ struct FakeWord : FakeOffice {
 // document "Document" answer the word processor's members too: what the two controls share must leave the
 // same log.
 struct FakeSuite : FakeOffice {
-  explicit FakeSuite(bool named = true);
+  explicit FakeSuite(Serving serving = Serving::named);
   FakeClass manager_, global_;
 };
 
@@ -61,6 +63,6 @@ inline constexpr ItemKind item_kinds[] = {
 // "Outlook.Application", with as much of the object model behind it as the members use. A collection's first
 // and every next item is of the folder's kind; "Foreign" is an item of no kind, a distribution list.
 struct FakeOutlook : FakeOffice {
-  FakeOutlook();
+  explicit FakeOutlook(Serving serving = Serving::named);
   FakeClass class_;
 };

@@ -15,7 +15,7 @@ class Global : public WriterTest {
   static std::vector<std::string> start_elsewhere() {
     std::vector<std::string> log;
     const auto start = [](void* context) WINAPI -> DWORD {
-      FakeSuite suite(false);
+      FakeSuite suite(Serving::unnamed);
       EXPECT_EQ(late_call(outside::create(outside::classes[2]).Get(), L"Start", {true}), "ui1 1");
       *static_cast<std::vector<std::string>*>(context) = suite.log;
       return 0;
