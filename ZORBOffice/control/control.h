@@ -48,6 +48,9 @@ class Control : public Interface, public Instance {
                                    DISPPARAMS* parameters, VARIANT* result, EXCEPINFO* exception,
                                    UINT* argument_error) noexcept override {
     if (reserved != IID_NULL) return DISP_E_UNKNOWNINTERFACE;
+    // Outside of the member's frame too the host's code runs: converting an argument asks an object for its
+    // default property, and what is written back releases what stood there before.
+    const ComPtr<Interface> alive(this);
     return invoke_member(this, default_interface_.members, id, locale, flags, parameters, result, exception,
                          argument_error);
   }

@@ -1,5 +1,7 @@
 #include "ZORBOffice/control/instance.h"
 
+#include <oleauto.h>
+
 #include "ZORBOffice/surface/class_row.h"
 
 namespace zorboffice {
@@ -25,7 +27,11 @@ ULONG Instance::Identity::Release() noexcept {
   if (left == 0) {
     // Objects that the destructor releases may call back, which must not destroy the instance again.
     references_ = 1;
+    // They may also clear the error information of the failed call that the instance ends with.
+    ComPtr<IErrorInfo> information;
+    GetErrorInfo(0, information.receive());
     delete &instance_;
+    if (information) SetErrorInfo(0, information.get());
   }
   return left;
 }
