@@ -174,10 +174,18 @@ Failure current_failure() noexcept {
   }
 }
 
+Bstr description_of(HRESULT result) noexcept {
+  try {
+    throw_hresult(result);
+  } catch (...) {
+    return current_failure().description;
+  }
+}
+
 HRESULT raise_to_host(const Failure& failure) noexcept {
   ComPtr<ICreateErrorInfo> information;
   ComPtr<IErrorInfo> published;
-  wchar_t source[] = L"ZORBOffice";
+  auto* const source = const_cast<wchar_t*>(failure_source);
   if (SUCCEEDED(CreateErrorInfo(information.receive())) && SUCCEEDED(information->SetSource(source)) &&
       SUCCEEDED(information->SetDescription(failure.description.get())) &&
       SUCCEEDED(information->QueryInterface(IID_IErrorInfo, published.receive_void()))) {

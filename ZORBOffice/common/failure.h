@@ -43,6 +43,12 @@ inline void check(HRESULT result) {
 // Inside a catch block: the failure being handled, whatever its type.
 Failure current_failure() noexcept;
 
+// The text of a failed HRESULT; empty only where there is no memory for one.
+Bstr description_of(HRESULT result) noexcept;
+
+// What a failure that reaches the host names as its source.
+inline constexpr wchar_t failure_source[] = L"ZORBOffice";
+
 // Hands a failure to the host: sets the thread's error information and returns the matching HRESULT, which is
 // 0x800Axxxx for a runtime error.
 HRESULT raise_to_host(const Failure& failure) noexcept;

@@ -21,4 +21,9 @@ HRESULT run_in_frame(CallableRef body, TrapRef trap) noexcept {
   }
 }
 
+HRESULT refuse_result() noexcept {
+  const auto refuse = [] { throw_hresult(E_POINTER); };
+  return run_in_frame(CallableRef(refuse), TrapRef(none));
+}
+
 }  // namespace zorboffice::detail

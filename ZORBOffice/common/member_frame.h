@@ -139,6 +139,9 @@ class TrapRef {
 // S_OK unless the trap itself threw.
 HRESULT run_in_frame(CallableRef body, TrapRef trap) noexcept;
 
+// The failure of a null pointer where the result belongs; no trap of the member's own hears of it.
+HRESULT refuse_result() noexcept;
+
 void run_step(CallableRef step, TrapRef trap);
 
 }  // namespace detail
@@ -148,7 +151,7 @@ void run_step(CallableRef step, TrapRef trap);
 // host.
 template <class ResultType, class Trap, class Body>
 HRESULT trapped(ResultType* result, const Trap& trap, const Body& body) noexcept {
-  if (!result) return E_POINTER;
+  if (!result) return detail::refuse_result();
   detail::set_failure(result);
   const auto run = [&] {
     if constexpr (std::is_void_v<decltype(body())>) {

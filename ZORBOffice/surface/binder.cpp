@@ -7,6 +7,7 @@
 
 #include "ZORBOffice/common/bstr.h"
 #include "ZORBOffice/common/com_ptr.h"
+#include "ZORBOffice/common/failure.h"
 #include "ZORBOffice/common/variant.h"
 #include "ZORBOffice/surface/host_argument.h"
 
@@ -173,13 +174,21 @@ class Binder {
   Bindings bindings_;
 };
 
+// A failure without information of its own still says what it is and where it comes from.
 void fill_exception(HRESULT status, EXCEPINFO& exception) {
+  Bstr source;
+  Bstr description;
+  ComPtr<IErrorInfo> information;
+  if (GetErrorInfo(0, information.receive()) == S_OK) {
+    information->GetSource(source.receive());
+    information->GetDescription(description.receive());
+  }
+  if (source.view().empty()) source = Bstr::adopt(SysAllocString(failure_source));
+  if (description.view().empty()) description = description_of(status);
   exception = {};
   exception.scode = status;
-  ComPtr<IErrorInfo> information;
-  if (GetErrorInfo(0, information.receive()) != S_OK) return;
-  information->GetSource(&exception.bstrSource);
-  information->GetDescription(&exception.bstrDescription);
+  exception.bstrSource = source.release();
+  exception.bstrDescription = description.release();
 }
 
 }  // namespace

@@ -36,6 +36,7 @@ struct Probe final : Control<IDispatch> {
   Texts received;
   std::map<size_t, _variant_t> changes;  // what the parameters at these positions become
   void (*raise)() = nullptr;
+  HRESULT bare = S_OK;  // what a member returns that has no frame
 
   void run(bool by_reference, std::initializer_list<void*> parameters) {
     received.clear();
@@ -59,7 +60,7 @@ struct Probe final : Control<IDispatch> {
     return trapped(result, none, [&] { return run(false, {&a, &b, &c, &d, &e, &f}), Bstr(L"copied"); });
   }
   HRESULT WINAPI Byte(BYTE* result) noexcept { return *result = 255, S_OK; }
-  HRESULT WINAPI Flag(VARIANT_BOOL* result) noexcept { return *result = -1, S_OK; }
+  HRESULT WINAPI Flag(VARIANT_BOOL* result) noexcept { return *result = -1, bare; }
 };
 
 constexpr std::initializer_list<Parameter> parameters_by_reference = {
@@ -230,6 +231,12 @@ TEST_F(Binder, HandsFailuresToTheHost) {
       {[] { throw_runtime_error(6); }, "800A0006 Overflow"},
       {[] { throw std::bad_alloc(); }, "800A0007 Out of memory"},
       {[] { throw 1; }, "800A01B8 Automation error"}};
+  const auto expect_raised = [&](const char* expected) {
+    char raised[60];
+    snprintf(raised, sizeof raised, "%08lX %ls", raised_.scode, Bstr::adopt(raised_.bstrDescription).get());
+    EXPECT_STREQ(raised, expected);
+    EXPECT_EQ(Bstr::adopt(raised_.bstrSource).view(), L"ZORBOffice");
+  };
   DISPPARAMS nothing = {};
   EXPECT_EQ(invoke_bare(&nothing), S_OK);
   for (const auto& [raise, expected] : rows) {
@@ -238,12 +245,12 @@ TEST_F(Binder, HandsFailuresToTheHost) {
     LONG host = 5;
     EXPECT_EQ(invoke(refer, {to(VT_I4, &host)}, {int32}), DISP_E_EXCEPTION);
     EXPECT_EQ(host, 7) << "what the member changed before it failed";
-    char raised[60];
-    snprintf(raised, sizeof raised, "%08lX %ls", raised_.scode, Bstr::adopt(raised_.bstrDescription).get());
-    EXPECT_STREQ(raised, expected);
-    EXPECT_EQ(Bstr::adopt(raised_.bstrSource).view(), L"ZORBOffice");
+    expect_raised(expected);
     EXPECT_EQ(invoke_bare(&nothing), DISP_E_EXCEPTION);
   }
+  probe_->bare = E_ACCESSDENIED;
+  EXPECT_EQ(invoke(flag_result), DISP_E_EXCEPTION);
+  expect_raised("80070005 Permission denied");
 }
 
 TEST_F(Binder, FindsNamesInAnyCase) {
