@@ -3,6 +3,7 @@
 #include <oleauto.h>
 
 #include <algorithm>
+#include <array>
 #include <cstdlib>
 #include <map>
 #include <memory>
@@ -185,17 +186,48 @@ class Library {
       require(infos[type]->SetGuid(id));
       require(infos[type]->SetTypeFlags(TYPEFLAG_FDISPATCHABLE));
     }
+    std::map<std::string, ComPtr<ITypeInfo>> declared;
+    for (const auto& [type, info] : infos) {
+      ++id.Data1;
+      declared[type] = declared_as(made.Get(), type, id, {infos.begin()->second.Get(), info.Get()});
+    }
     for (const auto& [type, info] : infos) {
       UINT index = 0;
       for (const auto& name : words(vocabulary))
-        add(infos, type, name, model_identifier(name, shift_of(type)), index++);
-      add(infos, type, "[value]", DISPID_VALUE, index);
+        add(infos, declared, type, name, model_identifier(name, shift_of(type)), index++);
+      add(infos, declared, type, "[value]", DISPID_VALUE, index);
       require(info->LayOut());
     }
     require(made->SaveAllChanges());
   }
 
-  static void add(std::map<std::string, ComPtr<ICreateTypeInfo>>& infos, const std::string& type,
+  // A type as members are declared to answer it: another name for a class of whose interfaces, the first one
+  // for its events, it is the default.
+  static ComPtr<ITypeInfo> declared_as(ICreateTypeLib2* made, const std::string& type, const GUID& id,
+                                       const std::array<ICreateTypeInfo*, 2>& interfaces) {
+    ComPtr<ICreateTypeInfo> coclass, alias;
+    ComPtr<ITypeInfo> referred;
+    HREFTYPE reference = 0;
+    require(made->CreateTypeInfo(wide("Class" + type).data(), TKIND_COCLASS, &coclass));
+    require(coclass->SetGuid(id));
+    for (UINT i = 0; i < interfaces.size(); ++i) {
+      require(interfaces[i]->QueryInterface(IID_PPV_ARGS(&referred)));
+      require(coclass->AddRefTypeInfo(referred.Get(), &reference));
+      require(coclass->AddImplType(i, reference));
+      require(coclass->SetImplTypeFlags(i, IMPLTYPEFLAG_FDEFAULT | (i == 0 ? IMPLTYPEFLAG_FSOURCE : 0)));
+    }
+    TYPEDESC description{};
+    description.vt = VT_USERDEFINED;
+    require(coclass.As(&referred));
+    require(made->CreateTypeInfo(wide("Alias" + type).data(), TKIND_ALIAS, &alias));
+    require(alias->AddRefTypeInfo(referred.Get(), &description.hreftype));
+    require(alias->SetTypeDescAlias(&description));
+    require(alias.As(&referred));
+    return referred;
+  }
+
+  static void add(std::map<std::string, ComPtr<ICreateTypeInfo>>& infos,
+                  const std::map<std::string, ComPtr<ITypeInfo>>& declared, const std::string& type,
                   const std::string& name, DISPID id, UINT index) {
     const auto row = std::ranges::find_if(
         answering, [&](const Answering& row) { return row.type == type && row.member == name; });
@@ -219,9 +251,7 @@ class Library {
     if (row != std::end(answering)) {
       function.elemdescFunc.tdesc.vt = VT_DISPATCH;
       if (*row->answer) {
-        ComPtr<ITypeInfo> answered;
-        require(infos.at(row->answer).As(&answered));
-        require(infos.at(type)->AddRefTypeInfo(answered.Get(), &object.hreftype));
+        require(infos.at(type)->AddRefTypeInfo(declared.at(row->answer).Get(), &object.hreftype));
         object.vt = VT_USERDEFINED;
         function.elemdescFunc.tdesc.vt = VT_PTR;
         function.elemdescFunc.tdesc.lptdesc = &object;
