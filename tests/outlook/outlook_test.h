@@ -38,14 +38,16 @@ inline _variant_t march_5(int hour, int minute = 0, int second = 0) {
 
 class OutlookTest : public ControlTest<FakeOutlook, 1> {
  protected:
-  OutlookTest() : hook_(SetWindowsHookExW(WH_CBT, window_event, nullptr, GetCurrentThreadId())) {
-    running_ = this;
+  OutlookTest() {
+    boxes_.at_box = [this] {
+      errors_at_boxes_.push_back(last_error());
+      if (at_box_) at_box_();
+    };
     office_.objects.insert({"Parent", "Recipients"});
     office_.answers["Recipients.[newenum]"] = {.items = {"First", "Second"}};
     office_.answers["Appointment.Start"] = {march_5(14, 30)};
     office_.answers["Appointment.Subject"] = {L"Lunch"};
   }
-  ~OutlookTest() { UnhookWindowsHookEx(hook_); }
 
   // Replaces the control by a new one that has recorded `unset`, started a session, filled the collection of
   // every kind, created a current item of every kind and taken the appointment's recurrence pattern
@@ -102,19 +104,7 @@ class OutlookTest : public ControlTest<FakeOutlook, 1> {
   std::function<void()> at_box_;
 
  private:
-  static LRESULT CALLBACK window_event(int event, WPARAM window, LPARAM details) {
-    wchar_t kind[8] = {};
-    GetClassNameW(reinterpret_cast<HWND>(window), kind, 8);
-    if (event == HCBT_CREATEWND && std::wstring_view(kind) == L"#32770") {
-      running_->errors_at_boxes_.push_back(running_->last_error());
-      if (running_->at_box_) running_->at_box_();
-    }
-    return CallNextHookEx(nullptr, event, window, details);
-  }
-
-  inline static OutlookTest* running_;
   const UserLocale locale_{month_first};
-  const HHOOK hook_;
 };
 
 // What SetRecurrenceProperty's boxes are titled with, as expect takes it, and the steps to that.

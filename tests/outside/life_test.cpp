@@ -92,8 +92,10 @@ TEST(Slots, answer_a_host_that_started_nothing) {
       SetErrorInfo(0, nullptr);
       const HRESULT code = call_slot(instance.Get(), slot, types, references, result);
       if (GetErrorInfo(0, &error) == S_OK) error->GetDescription(&described);
-      for (const SeenBox& box : boxes.take())
+      for (const SeenBox& box : boxes.take()) {
+        EXPECT_EQ(box.buttons, std::vector<std::string>{"OK"});
         if (box.text != last) shown += last = box.text;
+      }
       EXPECT_TRUE(members[slot].succeeds || is_failure_value(types.back(), result));
       // A null reference is a failure like any other, or refused at once.
       if (references || code != E_POINTER) {
