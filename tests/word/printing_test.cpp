@@ -50,7 +50,11 @@ TEST_F(Printing, MessageBoxesBelongToTheActiveWindow) {
   EXPECT_EQ(boxes[0].owner, window);
 }
 
+std::wstring loaded;
+HMODULE WINAPI load(const wchar_t* path) { return LoadLibraryW((loaded = path).c_str()); }
+
 TEST_F(Printing, ToPdfTakesTheFirstPrinterOfThatName) {
+  void* const unwatched = replace_import("LoadLibraryW", reinterpret_cast<void*>(load));
   // Wine reads the list of printers from here at each request.
   const std::wstring key = L"System\\CurrentControlSet\\Control\\Print\\Printers\\";
   const std::string read = "get Application.ActivePrinter | ",
@@ -67,6 +71,10 @@ TEST_F(Printing, ToPdfTakesTheFirstPrinterOfThatName) {
     check({L"SaveDocAsPDF", {}, installed ? "bool -1" : "bool 0", steps});
     for (const auto& name : names) RegDeleteTreeW(HKEY_LOCAL_MACHINE, (key + name).c_str());
   }
+  replace_import("LoadLibraryW", unwatched);
+  wchar_t system[MAX_PATH];
+  GetSystemDirectoryW(system, MAX_PATH);
+  EXPECT_EQ(loaded, std::wstring(system) + L"\\winspool.drv") << "a library is loaded by its full path";
 }
 
 }  // namespace
