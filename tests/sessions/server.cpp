@@ -22,8 +22,10 @@ struct Filter : IMessageFilter {
   HRESULT WINAPI QueryInterface(REFIID, void**) override { return E_NOINTERFACE; }
   ULONG WINAPI AddRef() override { return 1; }
   ULONG WINAPI Release() override { return 1; }
-  DWORD WINAPI HandleInComingCall(DWORD, HTASK, DWORD, LPINTERFACEINFO) override {
-    return GetTickCount() < busy_until ? SERVERCALL_REJECTED : SERVERCALL_ISHANDLED;
+  // References are counted also while it is busy, for which Wine asks as well.
+  DWORD WINAPI HandleInComingCall(DWORD, HTASK, DWORD, LPINTERFACEINFO call) override {
+    const bool busy = GetTickCount() < busy_until && call->iid == IID_IDispatch;
+    return busy ? SERVERCALL_REJECTED : SERVERCALL_ISHANDLED;
   }
   DWORD WINAPI RetryRejectedCall(HTASK, DWORD, DWORD) override { return MAXDWORD; }
   DWORD WINAPI MessagePending(HTASK, DWORD, DWORD) override { return PENDINGMSG_WAITDEFPROCESS; }
