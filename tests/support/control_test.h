@@ -57,6 +57,12 @@ inline std::string taken_boxes(ShownBoxes& boxes) {
   return all;
 }
 
+// Fails where what it stands in takes longer than a failure that the system reports may take.
+struct Soon {
+  ~Soon() { EXPECT_LT(GetTickCount() - started, 1000U); }
+  const DWORD started = GetTickCount();
+};
+
 // A control and the boxes that it shows, none of which may be left unseen.
 template <int class_index>
 class HostTest : public testing::Test {
