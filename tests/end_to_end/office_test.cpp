@@ -1,4 +1,5 @@
 // ZORBWord and OpenWriter over LibreOffice: what they do to real documents, and what the user is told.
+#include <cstdio>
 #include <fstream>
 
 #include "support/control_test.h"
@@ -186,6 +187,43 @@ TEST_F(WriterOffice, FindsAndHasNotTheWordProcessorsMembers) {
   expect(L"Start", {true}, "ui1 0", "Start " + unknown + " | " + unknown);
   expect(L"ReadText", {0, 0}, "bstr \"Alpha beta\"");
   open(L"placed.odt", L"text");
+}
+
+// The programs behind the control are killed. The script recovery does that, which is asked on the standard
+// output and answers on the standard input.
+class Recovery : public HostTest<0> {
+ protected:
+  static void please(const char* request) {
+    std::printf("please %s\n", request);
+    std::fflush(stdout);
+    char answer[16] = "";
+    ASSERT_TRUE(std::fgets(answer, sizeof(answer), stdin));
+  }
+};
+
+TEST_F(Recovery, ASessionBeginsAnewAfterAKill) {
+  for (const char* killed : {"", "kill office", "kill bridge"}) {
+    SCOPED_TRACE(killed);
+    if (*killed) {
+      please(killed);
+      for (const auto& [member, prefix] :
+           {std::pair{L"CreateDoc", "Create Doc "}, {L"Paste", "Paste "}, {L"CloseDoc", "Close Doc "}}) {
+        const Soon soon;
+        EXPECT_NE(call(member), "ui1 1");
+        const auto boxes = taken_boxes(boxes_);
+        EXPECT_TRUE(boxes.starts_with(prefix)) << boxes;
+      }
+      EXPECT_TRUE(call(L"StopWord", {true}).starts_with("raised "));
+      please("start");
+    }
+    expect(L"Start", {}, "ui1 1");
+    expect(L"CreateDoc", {}, "ui1 1");
+    expect(L"SendText", {L"text"}, "ui1 1");
+    expect(L"ReadText", {0, 0}, "bstr \"text\r\"");
+  }
+  expect(L"StopWord", {true}, "empty");
+  control_.Reset();
+  EXPECT_EQ(outside::call("DllCanUnloadNow"), S_OK);
 }
 
 }  // namespace

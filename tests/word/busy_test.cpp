@@ -44,7 +44,7 @@ TEST_F(Busy, AsksTheHostsFilterAndLeavesItInPlace) {
   EXPECT_EQ(found, &filter);
 }
 
-// Windows are painted while a member waits, as in any call.
+// Windows are painted while a member waits, as in any call, but get no input.
 TEST_F(Busy, LetsTheHostCallAndReleaseTheControl) {
   expect(L"Start", {}, "ui1 1");
   log();
@@ -59,9 +59,11 @@ TEST_F(Busy, LetsTheHostCallAndReleaseTheControl) {
       CreateWindowW(L"Static", L"", WS_VISIBLE, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
   const WNDPROC procedure = [](HWND target, UINT message, WPARAM first, LPARAM second) WINAPI -> LRESULT {
     if (message == WM_PAINT) paint();
+    EXPECT_NE(message, WM_KEYDOWN);
     return DefWindowProcW(target, message, first, second);
   };
   SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure));
+  PostMessageW(window, WM_KEYDOWN, VK_RETURN, 0);
   office_.gate = [] { return RPC_E_CALL_REJECTED; };
   EXPECT_EQ(call(L"SetActive", {true}), "ui1 1");
   EXPECT_EQ(log(), "put Application.ScreenUpdating=bool -1 | call Application.Activate");
