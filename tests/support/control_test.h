@@ -57,9 +57,10 @@ inline std::string taken_boxes(ShownBoxes& boxes) {
   return all;
 }
 
-// Fails where what it stands in takes longer than a failure that the system reports may take.
+// Fails where what it stands in takes longer than a failure that the system reports may take: it is told at
+// once, and the rest of the time is the busy machine's.
 struct Soon {
-  ~Soon() { EXPECT_LT(GetTickCount() - started, 1000U); }
+  ~Soon() { EXPECT_LT(GetTickCount() - started, 5000U); }
   const DWORD started = GetTickCount();
 };
 
