@@ -95,6 +95,7 @@ HRESULT DataObject::EnumFormatEtc(DWORD direction, IEnumFORMATETC** enumerator) 
 HRESULT DataObject::DAdvise(FORMATETC* format, DWORD flags, IAdviseSink* sink, DWORD* connection) noexcept {
   if (!connection) return E_POINTER;
   *connection = 0;
+  if (!format) return E_POINTER;  // the holder would read it
   const auto kept = control_.alive();
   if (!advice_) {
     if (const HRESULT status = CreateDataAdviseHolder(advice_.receive()); FAILED(status)) return status;
