@@ -21,6 +21,22 @@ ComPtr<Interface> as(const ComPtr<Known>& object) {
   return as<Interface>(object.Get());
 }
 
+// Counts its own references and hands every question on to the control it is made of,
+// which its last reference ends.
+struct Outer final : IUnknown {
+  HRESULT WINAPI QueryInterface(REFIID id, void** object) override {
+    return id == IID_IUnknown ? AddRef(), *object = this, S_OK : inner->QueryInterface(id, object);
+  }
+  ULONG WINAPI AddRef() override { return ++references; }
+  ULONG WINAPI Release() override {
+    const ULONG left = --references;
+    if (left == 0) references = 1, inner.Reset();
+    return left;
+  }
+  ULONG references = 1;
+  ComPtr<IUnknown> inner;
+};
+
 // A property bag of texts, as a form's text file gives them.
 struct Bag final : IPropertyBag {
   HRESULT WINAPI QueryInterface(REFIID, void**) override { return E_NOINTERFACE; }

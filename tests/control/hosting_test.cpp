@@ -26,17 +26,6 @@ void expect_no_trace_of(const Round& round) {
   EXPECT_EQ(outside::call("DllCanUnloadNow"), S_OK);
 }
 
-// Counts its own references and hands every question on to the control it is made of.
-struct Outer final : IUnknown {
-  HRESULT WINAPI QueryInterface(REFIID id, void** object) override {
-    return id == IID_IUnknown ? AddRef(), *object = this, S_OK : inner->QueryInterface(id, object);
-  }
-  ULONG WINAPI AddRef() override { return ++references; }
-  ULONG WINAPI Release() override { return --references; }
-  ULONG references = 1;
-  ComPtr<IUnknown> inner;
-};
-
 // Also where the control is a part of another object.
 TEST(Interfaces, are_those_that_containers_ask_for_and_no_promise_of_safety) {
   const IID known[] = {IID_IUnknown,

@@ -1,7 +1,6 @@
 // Class factories, the life of the library, and every slot of every vtable called as a host would.
 #include <algorithm>
 #include <cstring>
-#include <regex>
 
 #include "members.h"
 #include "support/message_boxes.h"
@@ -30,15 +29,6 @@ TEST(Factory, gives_a_class_its_own_interfaces_which_keep_the_library) {
     EXPECT_EQ(factory(ids)->LockServer(FALSE), S_OK);
     EXPECT_EQ(call("DllCanUnloadNow"), S_OK);
   }
-}
-
-std::vector<VARTYPE> types_of(const std::wstring& signature) {
-  static const std::wregex pattern(L" (&?)(short|long|byte|flag|string|variant)");
-  std::vector<VARTYPE> types;
-  for (std::wsregex_iterator i(signature.begin(), signature.end(), pattern), end; i != end; ++i)
-    for (const auto& [type, name] : type_names)
-      if ((*i)[2] == name) types.push_back(type | ((*i)[1].length() ? VT_BYREF : 0));
-  return types;
 }
 
 // Calls a slot with zeros and empty strings, or null references, and lets it write its result to `result`.

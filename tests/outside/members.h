@@ -3,6 +3,7 @@
 // one that is optional without a default.
 #pragma once
 
+#include <regex>
 #include <string>
 #include <vector>
 
@@ -143,6 +144,16 @@ inline std::vector<Member> members_of(const ClassIds& ids) {
       L"get SetHeaderFooter(SourceTemplate &string, DestTemplate &string, ApplyHeader &byte, "
       L"ApplyFooter &byte, ApplyFont &byte) byte";
   return members;
+}
+
+// The types of a member's parameters and, as the last, of its result.
+inline std::vector<VARTYPE> types_of(const std::wstring& signature) {
+  static const std::wregex pattern(L" (&?)(short|long|byte|flag|string|variant)");
+  std::vector<VARTYPE> types;
+  for (std::wsregex_iterator i(signature.begin(), signature.end(), pattern), end; i != end; ++i)
+    for (const auto& [type, name] : type_names)
+      if ((*i)[2] == name) types.push_back(type | ((*i)[1].length() ? VT_BYREF : 0));
+  return types;
 }
 
 }  // namespace outside

@@ -60,7 +60,7 @@ class FakeOffice {
   bool publishes = true;
 
   // A new object called `name` of the type that is published for it; the caller owns the reference.
-  IDispatch* make(const std::string& name, const std::string& type = "");
+  virtual IDispatch* make(const std::string& name, const std::string& type = "");
   // Logs `line`; returns S_OK, or the failure that is due, described in `info` where there is one.
   HRESULT step(const std::string& line, EXCEPINFO* info = nullptr);
 };

@@ -1,0 +1,98 @@
+// Calls all that hosts can call, in any order and with any arguments, while the office and the container do
+// anything, too.
+//
+//   fuzz [--seed S] [--first N] [--count C]
+//
+// A call is known by the seed and its number: --first N --count 1 makes it again, after those before it on
+// the same control.
+#include <algorithm>
+#include <cstdlib>
+
+#include "life.h"
+#include "support/import_table.h"
+#include "support/leaks.h"
+
+namespace {
+
+constexpr uint64_t calls_of_a_life = 16;
+
+// Stands where the library's message boxes would: a real one takes a thousand times as long, and Wine's
+// server runs out of handles after some ten thousands that were taken back. While it is there the host may do
+// anything.
+int WINAPI answer_box(HWND, LPCWSTR, LPCWSTR, UINT) {
+  Life::current->happen();
+  return IDOK;
+}
+
+LONG WINAPI crashed(EXCEPTION_POINTERS* exception) {
+  const auto& record = *exception->ExceptionRecord;
+  if (record.ExceptionCode >> 28 != 0xC) return EXCEPTION_CONTINUE_SEARCH;
+  printf("fuzz: seed %llu call %llu (%s): crash %08lX at %p, library at %p\n", report.seed, report.call,
+         report.what, record.ExceptionCode, record.ExceptionAddress,
+         static_cast<void*>(GetModuleHandleW(L"ZORBOffice.ocx")));
+  fflush(stdout);
+  TerminateProcess(GetCurrentProcess(), 2);
+  return EXCEPTION_CONTINUE_SEARCH;
+}
+
+DWORD WINAPI watch(void*) {
+  for (uint64_t seen = ~0ull;;) {
+    Sleep(30'000);
+    if (std::exchange(seen, report.call) != report.call) continue;
+    printf("fuzz: seed %llu call %llu (%s): hangs\n", report.seed, report.call, report.what);
+    fflush(stdout);
+    TerminateProcess(GetCurrentProcess(), 3);
+  }
+}
+
+void run(uint64_t first, uint64_t end) {
+  for (uint64_t number = first / calls_of_a_life * calls_of_a_life; number < end;) {
+    Life life(report.seed, number);
+    for (uint64_t i = 0; i < calls_of_a_life && number < end; ++i) life.call(report.seed, number++);
+  }
+}
+
+// What is left behind again each time that the same calls are made has leaked; what is not, the system has
+// set aside.
+void run_without_leaks(uint64_t first, uint64_t end) {
+  Resources before = resources_in_use(), after;
+  for (int time = 0; time < 6; ++time, before = after) {
+    run(first, end);
+    after = resources_in_use();
+    const bool more = after.blocks > before.blocks || after.bytes > before.bytes ||
+                      after.windows > before.windows || after.handles > before.handles + 20 ||
+                      after.gdi_objects > before.gdi_objects + 20;
+    if (!more || report.faults) return;
+  }
+  report.wrong("a leak of memory, windows or handles in the calls up to this",
+               static_cast<unsigned long>(end - first));
+}
+
+}  // namespace
+
+int main(int count, char** arguments) {
+  uint64_t first = 0, calls = 20'000;
+  report.seed = 1;
+  for (int i = 1; i + 1 < count; i += 2) {
+    const uint64_t value = std::strtoull(arguments[i + 1], nullptr, 10);
+    const std::string name = arguments[i];
+    if (name == "--seed") report.seed = value;
+    if (name == "--first") first = value;
+    if (name == "--count") calls = value;
+  }
+  report.verbose = calls < 10;
+  outside::library();
+  OleInitialize(nullptr);
+  AddVectoredExceptionHandler(1, crashed);
+  CloseHandle(CreateThread(nullptr, 0, watch, nullptr, 0, nullptr));
+  replace_import("MessageBoxW", reinterpret_cast<void*>(answer_box));
+  constexpr uint64_t part = 10'000;
+  for (uint64_t done = 0; done < calls && report.faults < 10; done += part) {
+    report.verbose ? run(first, first + calls)
+                   : run_without_leaks(first + done, first + std::min(done + part, calls));
+    printf("%llu of %llu calls\n", std::min(done + part, calls), calls);
+    fflush(stdout);
+  }
+  printf("fuzz: seed %llu, %llu calls, %d faults\n", report.seed, calls, report.faults);
+  return report.faults ? 1 : 0;
+}
