@@ -34,6 +34,7 @@ HRESULT InPlace::UIDeactivate() noexcept {
 
 HRESULT InPlace::SetObjectRects(LPCRECT position, LPCRECT clip) noexcept {
   if (!position) return E_POINTER;
+  if (!is_measurable(*position)) return E_INVALIDARG;
   const auto kept = control_.alive();
   window_.place(*position, clip ? *clip : *position);
   return S_OK;

@@ -24,7 +24,9 @@ HRESULT View::Draw(DWORD aspect, LONG index, void*, DVTARGETDEVICE*, HDC, HDC dc
                    BOOL(STDMETHODCALLTYPE*)(ULONG_PTR), ULONG_PTR) noexcept {
   if (const HRESULT status = checked(aspect, index); FAILED(status)) return status;
   if (!dc || !bounds) return E_INVALIDARG;
-  control_.draw(dc, {bounds->left, bounds->top, bounds->right, bounds->bottom}, pixels_of(control_.extent()));
+  const RECT area = {bounds->left, bounds->top, bounds->right, bounds->bottom};
+  if (!is_measurable(area)) return E_INVALIDARG;
+  control_.draw(dc, area, pixels_of(control_.extent()));
   return S_OK;
 }
 

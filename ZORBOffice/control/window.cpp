@@ -53,6 +53,12 @@ int dots_per_inch(HWND window, HDC dc) {
 
 }  // namespace
 
+bool is_measurable(const RECT& area) noexcept {
+  constexpr LONG limit = 1 << 29;
+  return area.left >= -limit && area.top >= -limit && area.left <= limit && area.top <= limit &&
+         area.right >= -limit && area.bottom >= -limit && area.right <= limit && area.bottom <= limit;
+}
+
 Window::~Window() {
   if (!handle_) return;
   SetWindowLongPtrW(handle_, GWLP_USERDATA, 0);
@@ -61,6 +67,7 @@ Window::~Window() {
 
 bool Window::create(HWND parent, const RECT& position, const RECT& clip) noexcept {
   if (handle_) return true;
+  if (!is_measurable(position)) return false;
   window_class.register_once(procedure);
   clipped_ = false;
   CreateWindowExW(0, WindowClass::name, L"Picture1", WS_CHILD | WS_CLIPSIBLINGS, 0, 0, 0, 0, parent, nullptr,
@@ -80,8 +87,9 @@ void Window::place(const RECT& position, const RECT& clip) noexcept {
   const bool was_clipped = std::exchange(clipped_, !EqualRect(&seen, &position));
   if (clipped_ || was_clipped) {
     OffsetRect(&seen, -position.left, -position.top);
-    // The window owns its region.
-    SetWindowRgn(handle_, clipped_ ? CreateRectRgnIndirect(&seen) : nullptr, TRUE);
+    // The window owns its region, unless it has gone meanwhile.
+    const HRGN region = clipped_ ? CreateRectRgnIndirect(&seen) : nullptr;
+    if (!SetWindowRgn(handle_, region, TRUE) && region) DeleteObject(region);
   }
   SetWindowPos(handle_, nullptr, position.left, position.top, position.right - position.left,
                position.bottom - position.top, SWP_NOZORDER | SWP_NOACTIVATE);

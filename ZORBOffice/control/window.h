@@ -16,6 +16,9 @@ class WindowOwner {
   ~WindowOwner() = default;
 };
 
+// Whether the distances within a rectangle, and sums of its coordinates, are numbers of 32 bits.
+bool is_measurable(const RECT& area) noexcept;
+
 // Gone without a word when its owner is, or when its parent is destroyed.
 class Window {
  public:
@@ -28,10 +31,10 @@ class Window {
   HWND handle() const { return handle_; }
 
   // Makes the window, hidden, at position in the parent's pixels, of which clip is to be seen. Returns false
-  // where Windows refuses.
+  // where Windows refuses, or where that cannot be measured.
   bool create(HWND parent, const RECT& position, const RECT& clip) noexcept;
 
-  // The following do nothing where there is no window.
+  // The following do nothing where there is no window. A position has to be measurable.
   void destroy() noexcept;
   void place(const RECT& position, const RECT& clip) noexcept;
   void show(bool visible) noexcept;
