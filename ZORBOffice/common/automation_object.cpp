@@ -221,6 +221,8 @@ Variant Result::converted_to(VARTYPE type) const {
     ComPtr<IDispatch> room;
     invoke(callee(room).object, DISPID_VALUE, DISPATCH_METHOD | DISPATCH_PROPERTYGET, none,
            default_property.receive());
+    // The platform's conversion has a failure of its own for Nothing.
+    if (default_property.value_.type() == VT_DISPATCH) default_property.callee(room);
     source = &default_property;
   }
   Variant converted;
