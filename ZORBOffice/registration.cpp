@@ -164,7 +164,7 @@ bool other_bitness_is_registered(HKEY root) {
 
 HKEY root_of(Scope scope) { return scope == Scope::user ? HKEY_CURRENT_USER : HKEY_LOCAL_MACHINE; }
 
-LONG write_all(HKEY root, std::span<const Entry> list) {
+LONG write_all(HKEY root, std::vector<Entry> list) {
   std::vector<StandingEntry> standing(list.size());
   for (std::size_t i = 0; i < list.size(); ++i) {
     if (const LONG status = read_standing(root, list[i], standing[i]); status != ERROR_SUCCESS) return status;
@@ -181,7 +181,7 @@ LONG write_all(HKEY root, std::span<const Entry> list) {
 }
 
 // Goes on after a failure, and returns the first one.
-LONG remove_all(HKEY root, std::span<const Entry> list) {
+LONG remove_all(HKEY root, std::vector<Entry> list) {
   const bool keeps_shared = other_bitness_is_registered(root);
   LONG first_failure = ERROR_SUCCESS;
   for (std::size_t i = list.size(); i-- > 0;) {

@@ -23,14 +23,15 @@ bool is_empty(HKEY key) {
   return keys == 0 && values == 0;
 }
 
-std::wstring parent(const std::wstring& name) {
+// Makes it the name of the key above.
+void climb(std::wstring& name) {
   const std::size_t end = name.find_last_of(L'\\');
-  return name.substr(0, end == std::wstring::npos ? 0 : end);
+  name.resize(end == std::wstring::npos ? 0 : end);
 }
 
 // Those that are longer than the part of the name that is to stay.
-LONG remove_empty_keys(HKEY root, std::wstring name, std::size_t staying) {
-  for (; name.size() > staying; name = parent(name)) {
+LONG remove_empty_keys(HKEY root, std::wstring& name, std::size_t staying) {
+  for (; name.size() > staying; climb(name)) {
     HKEY key;
     LONG status = RegOpenKeyExW(root, name.c_str(), 0, KEY_READ, &key);
     if (is_absent(status)) continue;
@@ -60,7 +61,7 @@ bool has_key(HKEY root, const std::wstring& name) noexcept {
 
 LONG read_standing(HKEY root, const RegistryEntry& entry, StandingEntry& standing) {
   std::wstring there = entry.key;
-  while (!there.empty() && !has_key(root, there)) there = parent(there);
+  while (!there.empty() && !has_key(root, there)) climb(there);
   standing = {there.size(), {}};
   if (!entry.data) return ERROR_SUCCESS;
   constexpr DWORD as_it_is = RRF_RT_ANY | RRF_NOEXPAND;
@@ -84,7 +85,7 @@ LONG write_entry(HKEY root, const RegistryEntry& entry) {
   return RegSetKeyValueW(root, entry.key.c_str(), entry.value, REG_SZ, entry.data->c_str(), size);
 }
 
-LONG restore_standing(HKEY root, const RegistryEntry& entry, const StandingEntry& standing) {
+LONG restore_standing(HKEY root, RegistryEntry& entry, const StandingEntry& standing) {
   if (standing.value) {
     return RegSetKeyValueW(root, entry.key.c_str(), entry.value, standing.value->type,
                            standing.value->data.data(), static_cast<DWORD>(standing.value->data.size()));
@@ -93,7 +94,7 @@ LONG restore_standing(HKEY root, const RegistryEntry& entry, const StandingEntry
   return status != ERROR_SUCCESS ? status : remove_empty_keys(root, entry.key, standing.standing_key);
 }
 
-LONG remove_entry(HKEY root, const RegistryEntry& entry) {
+LONG remove_entry(HKEY root, RegistryEntry& entry) {
   const LONG status = remove_value(root, entry);
   return status != ERROR_SUCCESS ? status : remove_empty_keys(root, entry.key, std::size(classes_root) - 1);
 }

@@ -32,7 +32,8 @@ struct StandingEntry {
 // Whether a key is there and may be read.
 bool has_key(HKEY root, const std::wstring& name) noexcept;
 
-// All of these return the registry's status. They throw std::bad_alloc.
+// All of these return the registry's status. Only the first takes memory, and throws std::bad_alloc: once
+// something was written or removed, nothing is left half done for want of memory.
 
 // Reads what stands in the entry's place; nothing there is no failure.
 LONG read_standing(HKEY root, const RegistryEntry& entry, StandingEntry& standing);
@@ -40,11 +41,11 @@ LONG read_standing(HKEY root, const RegistryEntry& entry, StandingEntry& standin
 // Writes the entry over whatever stands there.
 LONG write_entry(HKEY root, const RegistryEntry& entry);
 
-// Puts back what stood in the entry's place.
-LONG restore_standing(HKEY root, const RegistryEntry& entry, const StandingEntry& standing);
+// Puts back what stood in the entry's place. Uses up the entry's key.
+LONG restore_standing(HKEY root, RegistryEntry& entry, const StandingEntry& standing);
 
 // Removes the entry, and its key and that one's parents below the classes' root as far as nothing is left in
-// them. An entry that is not there is no failure.
-LONG remove_entry(HKEY root, const RegistryEntry& entry);
+// them. An entry that is not there is no failure. Uses up its key.
+LONG remove_entry(HKEY root, RegistryEntry& entry);
 
 }  // namespace zorboffice
