@@ -28,9 +28,8 @@ const std::string sorted = R"(call Fresh.Sort(bstr "[@key]"))",
 const std::string two = "get NoteItems.GetFirst | get Foreign.Class | get NoteItems.GetNext";
 const std::string pattern = "get Appointment.GetRecurrencePattern",
                   instance = pattern + " | get Pattern.GetOccurrence(date 07/21/2007 09:30:00)";
-const Answer nothing = {_variant_t(static_cast<IDispatch*>(nullptr))};
 const std::pair<const std::string, Answer> foreign = {"NoteItems.GetFirst", {.object = "Foreign"}},
-                                           end = {"NoteItems.GetNext", nothing};
+                                           end = {"NoteItems.GetNext", {nothing}};
 
 const std::string cleared = "get Appointment.IsRecurring | call Appointment.ClearRecurrencePattern";
 const std::map<std::string, Answer> exceptions = {{"Exceptions.Count", {2}},
@@ -54,6 +53,8 @@ constexpr auto day = R"(bstr "05/03/2007")", found = R"(bstr "Appointment Found"
 
 const Row rows[] = {
     {L"StartOutlook", {}, R"(create Outlook.Application | get Application.GetNamespace(bstr "MAPI"))"},
+    {L"GetLastErrorNumber", {}, "", "", "i2 91"},
+    {L"GetLastErrorDescription", {}, "", "", R"(bstr ")" + not_set + '"'},
     {L"StopOutlook", {}, ""},
     {L"StopOutlook", {false}, ""},
     {L"StopOutlook", {true}, "call Application.Quit"},
@@ -67,7 +68,7 @@ const Row rows[] = {
     {L"GetNextItem", {L"@"}, "get @items.GetNext" + of_class, "@item>@found"},
     {L"GetFirstItem", {L"Note"}, two + " | get FoundNote.Class", "Note>FoundNote", "bool -1", {foreign}},
     {L"GetFirstItem", {L"Note"}, two, "", "bool 0", {foreign, end}},
-    {L"GetFirstItem", {L"Note"}, "get NoteItems.GetFirst", "", "bool 0", {{"NoteItems.GetFirst", nothing}}},
+    {L"GetFirstItem", {L"Note"}, "get NoteItems.GetFirst", "", "bool 0", {{"NoteItems.GetFirst", {nothing}}}},
     {L"GetNextItem", {L"Note"}, "get NoteItems.GetNext", "", "bool 0", {end}},
     {L"GetItem", {L"@", L"@"}, R"(get NameSpace.GetItemFromID(bstr "@item"))" + of_class, "@item>@found"},
     {L"GetRecurrencePattern", {}, pattern},
@@ -166,22 +167,51 @@ class Members : public OutlookTest, public testing::WithParamInterface<Row> {
 };
 
 TEST_P(Members, TakeTheirStepsAndStopAtTheOneThatFails) {
-  std::string done;
-  for_each_step(row_.steps, [&](size_t step, const std::string& reached) {
+  Driven::here().members[1].insert(row_.member);
+  for_each_step(row_.steps, [&](size_t step, const std::string& reached, const Fault& fault) {
     make_row_ready();
-    const std::string shown = step ? message("No such member.", reached) : "";
+    const std::string shown = step ? message(fault.description, reached) : "";
     office_.fail_at = step;
     expect(row_.member, row_.arguments, step ? failed_ : row_.result, shown);
-    EXPECT_EQ(log(), step ? reached + facts_ : reached);
+    // The body is read before the attachment is looked at.
+    const bool late = fault.failure.result == S_OK && reached.ends_with("next Attachments");
+    EXPECT_EQ(log(), step ? reached + (late ? " | get Email.Body" : "") + facts_ : reached);
     EXPECT_EQ(errors_at_boxes_, std::vector<std::string>(shown.empty() ? 0 : 1, unset)) << "box first";
-    EXPECT_EQ(last_error(), step ? recorded(5941, "No such member.") : unset) << "it is never cleared";
+    EXPECT_EQ(last_error(), step ? recorded(fault.number, fault.description) : unset)
+        << "it is never cleared";
     office_.fail_at = 0;
     // The collection is replaced as soon as it is fetched, and again as soon as it is restricted.
+    const auto done = reached.substr(0, reached.rfind(" | ") == reached.npos ? 0 : reached.rfind(" | "));
     const bool fetched = done.find(".Items") != done.npos, restricted = done.find(".Restrict") != done.npos;
     const auto last = row_.change.substr(row_.change.find('>') + 1);
     EXPECT_EQ(held(), held_after(!step ? last : restricted ? "Chosen" : fetched ? "Fresh" : ""));
-    done = reached;
   });
+  expect_empty_answers_to_count(row_.steps, [&](size_t step) {
+    make_row_ready();
+    office_.fail_at = step;
+    std::string outcome = call(row_.member, row_.arguments);
+    office_.fail_at = 0;
+    for (const auto& seen : {log(), taken_boxes(boxes_), last_error(), held()}) outcome += " " + seen;
+    return outcome;
+  });
+}
+
+TEST_P(Members, RunShortOfMemory) {
+  const auto failed = [&](const Fault& fault, const std::string& result, const std::string& boxes) {
+    const bool raises = std::wstring_view(row_.member).starts_with(L"GetLastError");
+    return result == (raises ? fault.in("raised @ %") : failed_) &&
+           boxes == message(fault.description, log());
+  };
+  run_short(
+      row_.member, row_.arguments, [&] { make_row_ready(); }, failed,
+      [&] {
+        const auto last = row_.change.substr(row_.change.find('>') + 1);
+        const std::set<std::string> told = {unset, recorded(7, "Out of memory"), recorded(7, "")},
+                                    states = {kept_, held_after("Fresh"), held_after("Chosen"),
+                                              held_after(last)};
+        EXPECT_TRUE(told.contains(last_error())) << last_error();
+        EXPECT_TRUE(states.contains(held())) << held();
+      });
 }
 
 TEST_P(Members, NeedWhatTheirFirstStepIsAskedOf) {

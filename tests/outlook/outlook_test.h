@@ -43,6 +43,9 @@ class OutlookTest : public ControlTest<FakeOutlook, 1> {
       errors_at_boxes_.push_back(last_error());
       if (at_box_) at_box_();
     };
+    for (const auto& kind : item_kinds)
+      for (const auto* member : {"GetFirst", "GetNext"})
+        answers_too_.insert(std::string("get ") + kind.items + "." + member + ": nothing");
     office_.objects.insert({"Parent", "Recipients"});
     office_.answers["Recipients.[newenum]"] = {.items = {"First", "Second"}};
     office_.answers["Appointment.Start"] = {march_5(14, 30)};
@@ -77,7 +80,9 @@ class OutlookTest : public ControlTest<FakeOutlook, 1> {
   // The last error as the host reads it, and as it must read one of that number and description.
   std::string last_error() { return call(L"GetLastErrorNumber") + " " + call(L"GetLastErrorDescription"); }
   static std::string recorded(int number, const std::string& description) {
-    return "i2 " + std::to_string(number) + " bstr \"" + description + "\"";
+    const bool fits = number == static_cast<SHORT>(number);
+    return (fits ? "i2 " + std::to_string(number) : "raised 800A0006 Overflow") + " bstr \"" + description +
+           "\"";
   }
   // Current item and collection of every kind, by their objects' names: "|Appointment|AppointmentItems|…|".
   std::string held() {
@@ -97,7 +102,7 @@ class OutlookTest : public ControlTest<FakeOutlook, 1> {
     return {value, false};
   }
 
-  const std::string not_set = "Object variable or With block variable not set", unset = recorded(91, not_set);
+  const std::string unset = recorded(91, not_set);
 
   // The last error while each box of the last expect came up, and what the host does then.
   std::vector<std::string> errors_at_boxes_;

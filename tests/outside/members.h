@@ -17,6 +17,11 @@ struct Member {
   // The message boxes' texts, each once; "" for none; or what reaches the host instead.
   const char* fresh;
   bool succeeds = false;
+
+  std::wstring name() const {
+    const std::wstring_view text = signature;
+    return std::wstring(text.substr(text.find(L' ') + 1, text.find(L'(') - text.find(L' ') - 1));
+  }
   static constexpr const char *raised = "raised: Object required",
                               *not_set = "raised: Object variable or With block variable not set";
 };

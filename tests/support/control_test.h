@@ -4,7 +4,9 @@
 #include <algorithm>
 
 #include "fake_object.h"
-#include "outside/library.h"
+#include "faults.h"
+#include "outside/members.h"
+#include "short_memory.h"
 #include "shown_boxes.h"
 
 using Arguments = std::vector<_variant_t>;
@@ -64,6 +66,31 @@ struct Soon {
   const DWORD started = GetTickCount();
 };
 
+// The members that were driven through everything that can go wrong, and what was tried: a program that
+// drives members of a class has to drive each of them.
+class Driven : public testing::Environment {
+ public:
+  static Driven& here() {
+    static auto* const only = new Driven;
+    static const auto* const added = testing::AddGlobalTestEnvironment(only);
+    return static_cast<void>(added), *only;
+  }
+
+  void TearDown() override {
+    printf("counted: %d steps, %d faults, %d demands\n", steps, faults, demands);
+    if (testing::GTEST_FLAG(filter) != "*") return;
+    for (const auto& [class_index, names] : members) {
+      std::set<std::wstring> published;
+      for (const auto& member : outside::members_of(outside::classes[class_index]))
+        published.insert(member.name());
+      EXPECT_EQ(names, published);
+    }
+  }
+
+  std::map<int, std::set<std::wstring>> members;  // by class
+  int steps = 0, faults = 0, demands = 0;
+};
+
 // A control and the boxes that it shows, none of which may be left unseen.
 template <int class_index>
 class HostTest : public testing::Test {
@@ -103,24 +130,120 @@ class ControlTest : public HostTest<class_index> {
   // Replaces the control by a fresh one, over an application that no step fails in.
   void renew() {
     control_.Reset();
-    outside::call("DllCanUnloadNow");
+    if (outside::call("DllCanUnloadNow") == S_OK) {
+      EXPECT_EQ(office_.live, 0) << "objects are still held";
+    }
     office_.fail_at = 0;
     control_ = outside::create(outside::classes[class_index]);
   }
 
   std::string log() { return taken_log(office_); }
 
-  // Calls `attempt` for each of the steps, which " | " separates, with its number and all steps as far as it,
-  // and at last with 0 and all of them.
+  // Calls `attempt` with 0, all of the steps, which " | " separates, and no fault; then, with each step's
+  // number and all steps as far as it, for everything that can go wrong there.
   template <class Attempt>
-  static void for_each_step(const std::string& steps, const Attempt& attempt) {
-    for (size_t step = 1, end = steps.empty() ? std::string::npos : 0; end != std::string::npos; ++step) {
-      SCOPED_TRACE(step);
-      end = steps.find(" | ", end + 1);
-      attempt(step, steps.substr(0, end));
-    }
-    attempt(0, steps);
+  void for_each_step(const std::string& steps, const Attempt& attempt) {
+    attempt(0, steps, Fault{});
+    const auto usual = office_.failure;
+    each_step(steps, [&](size_t step, const std::string& reached, const std::string& line) {
+      ++Driven::here().steps;
+      for (const auto& fault : faults_where(due_at(step, line, steps.substr(reached.size())))) {
+        SCOPED_TRACE(fault.description + " " + describe(fault.failure.answer));
+        if (answers_too_.contains(line + ": " + describe(fault.failure.answer))) continue;
+        office_.failure = fault.failure;
+        ++Driven::here().faults;
+        attempt(step, reached, fault);
+      }
+    });
+    office_.failure = usual;
+    office_.fail_at = 0;
   }
 
+  // An empty answer is an empty text, 0 or false, and null is false: `outcome` tells what comes of either at
+  // a step.
+  template <class Outcome>
+  void expect_empty_answers_to_count(const std::string& steps, const Outcome& outcome) {
+    if (office_kind() != ::Office::plain) return;
+    const auto usual = office_.failure;
+    each_step(steps, [&](size_t step, const std::string& reached, const std::string& line) {
+      const VARTYPE due = due_at(step, line, steps.substr(reached.size()));
+      if (due == VT_EMPTY || due == VT_DISPATCH || due == VT_UNKNOWN) return;
+      office_.failure = {};
+      office_.failure.answer.ChangeType(due);  // which is empty yet
+      const std::string expected = outcome(step);
+      for (const auto& answer : {_variant_t(), null_value()}) {
+        if (answer.vt == VT_NULL && due != VT_BOOL) continue;
+        office_.failure.answer = answer;
+        EXPECT_EQ(outcome(step), expected) << describe(answer);
+      }
+    });
+    office_.failure = usual;
+    office_.fail_at = 0;
+  }
+
+  // Calls the member, each time made ready anew, with every demand for memory refused in turn, alone and with
+  // all that follow. It does what it usually does, or fails as `failed` says for a fault, or where not even
+  // that can be told, with a failure that reaches the host. Then `kept` looks at what it left behind.
+  template <class Ready, class Failed, class Kept>
+  void run_short(const wchar_t* member, const Arguments& arguments, const Ready& make_ready,
+                 const Failed& failed, const Kept& kept) {
+    if (office_kind() != ::Office::plain) return;
+    office_.forgets = true;
+    std::string usual, usual_boxes;
+    long held = 0;
+    for (const bool lasting : {false, true}) {
+      bool refused = true;
+      // The first round takes what the system keeps, the second is undisturbed.
+      for (long demand = lasting ? 1 : -1; refused; ++demand) {
+        SCOPED_TRACE((lasting ? "from demand " : "demand ") + std::to_string(demand));
+        make_ready();
+        ShortMemory memory(demand ? std::abs(demand) : LONG_MAX, lasting);
+        const auto result = this->call(member, arguments);
+        refused = memory.end() || demand < 1;
+        Driven::here().demands += refused && demand > 0;
+        const auto boxes = taken_boxes(this->boxes_), outcome = result + " " + boxes;
+        if (demand == 0) usual = outcome, usual_boxes = boxes;
+        const auto is_told = [&](const char* text) { return failed(Fault{{}, 7, text}, result, boxes); };
+        // Lasting, the boxes end early, and a failure that reaches the host has no text.
+        const bool is_raised = result == "raised 8007000E " ||
+                               (lasting && result.starts_with("raised 800A0007 ")) ||
+                               (lasting && result.starts_with("raised ") && usual.starts_with(result));
+        EXPECT_TRUE(demand < 0 || outcome == usual || is_told("Out of memory") || (lasting && is_told("")) ||
+                    (is_raised && usual_boxes.starts_with(boxes)))
+            << outcome;
+        if (outcome != usual) kept();
+        control_.Reset();
+        if (demand < 1) held = blocks_in_use();
+        EXPECT_EQ(blocks_in_use(), held);
+        log();
+      }
+    }
+    office_.forgets = false;
+  }
+
+  // Answers that are no failure although something else is due there, as "STEP: ANSWER".
+  std::set<std::string> answers_too_;
   Office office_;
+
+ private:
+  // The type of the answer that a step should give. An object's default property is a text; an element that
+  // no step is asked of may be anything.
+  VARTYPE due_at(size_t step, const std::string& line, const std::string& following) {
+    const auto next = following.substr(0, following.find(" | ", 3));
+    if (next.ends_with(".[value]")) return VT_BSTR;
+    if (next.starts_with(" | next ") && line.starts_with("next ")) return VT_EMPTY;
+    const VARTYPE answered = office_.answered[{step, line}];
+    return answered == VT_UNKNOWN && !line.ends_with("[newenum]") ? VARTYPE{VT_DISPATCH} : answered;
+  }
+  // Calls `visit` with each step's number, all steps as far as it, and its line.
+  template <class Visit>
+  static void each_step(const std::string& steps, const Visit& visit) {
+    for (size_t step = 1, begin = 0; begin < steps.size(); ++step) {
+      const size_t end = std::min(steps.find(" | ", begin), steps.size());
+      const std::string line = steps.substr(begin, end - begin);
+      SCOPED_TRACE(line);
+      visit(step, steps.substr(0, end), line);
+      begin = end + 3;
+    }
+  }
 };

@@ -12,7 +12,7 @@
 
 // How a step fails: with `result` as it stands or, where that is DISP_E_EXCEPTION, with what the other fields
 // say; `deferred` leaves them to the EXCEPINFO's fill-in function. `error_info` is the thread's IErrorInfo
-// text.
+// text. With S_OK the step goes well and has another answer than usual.
 struct Failure {
   HRESULT result = S_OK;
   DWORD scode = 0;
@@ -20,6 +20,7 @@ struct Failure {
   const wchar_t* description = nullptr;
   bool deferred = false;
   const wchar_t* error_info = nullptr;
+  _variant_t answer = {};
 };
 
 // What a member answers: `value`, or a new object of the name `object`. An enumerator goes through objects of
@@ -42,6 +43,8 @@ class FakeOffice {
   // The members, as "Object.Member", that are not there, with what a look-up or a call returns; and the
   // objects whose process does not answer, with what a call returns that asks nothing of them.
   std::map<std::string, HRESULT> refused;
+  // Whether an object may be asked for a name twice, as when there is no memory to keep the answer in.
+  bool forgets = false;
   // The step that fails with `failure`, counted in lines of the log from 1; 0 for none.
   size_t fail_at = 0;
   Failure failure = {DISP_E_EXCEPTION, 0x800A1735, 0, L"No such member."};
@@ -51,6 +54,8 @@ class FakeOffice {
   bool writes = false;
   // One line a step: "get|call|put|next|create Object.Member(arguments)".
   std::vector<std::string> log;
+  // The types of what the steps answered while none failed, by their numbers and lines.
+  std::map<std::pair<size_t, std::string>, VARTYPE> answered;
   // Objects and enumerators that somebody still holds.
   int live = 0;
   // The one thread that may call them.
@@ -63,6 +68,8 @@ class FakeOffice {
   virtual IDispatch* make(const std::string& name, const std::string& type = "");
   // Logs `line`; returns S_OK, or the failure that is due, described in `info` where there is one.
   HRESULT step(const std::string& line, EXCEPINFO* info = nullptr);
+  // Gives the answer of the step with that number and line.
+  void answer(size_t number, const std::string& line, _variant_t value, VARIANT* result);
 };
 
 // `value` as the log shows it: by-reference mark, kind and value, such as `&bstr "C:\a.docx"` or `bool -1`.

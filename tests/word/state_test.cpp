@@ -75,7 +75,6 @@ TEST_F(State, TextOfAnyLengthAndEveryPlaneGoesThroughUnchanged) {
 }
 
 const std::pair<Failure, const char*> told[] = {
-    {{DISP_E_EXCEPTION, 0x800A1735, 0, L"Own text."}, "5941 :  Own text."},
     {{DISP_E_EXCEPTION, 0x80070057, 0, L"Own text."}, "-2147024809 :  Own text."},
     {{DISP_E_EXCEPTION, 0, 4605, L"Own text."}, "4605 :  Own text."},
     {{DISP_E_EXCEPTION, 0x800A1735, 0, L"Filled in.", true}, "5941 :  Filled in."},
@@ -88,11 +87,9 @@ const std::pair<Failure, const char*> told[] = {
     {{E_FAIL}, "-2147467259 :  Call failed."},  // in the words of the system, which here is Wine
     {{E_INVALIDARG}, "5 :  Invalid procedure call or argument"},
     {{DISP_E_OVERFLOW}, "6 :  Overflow"},
-    {{E_OUTOFMEMORY}, "7 :  Out of memory"},
     {{DISP_E_BADINDEX}, "9 :  Subscript out of range"},
     {{DISP_E_ARRAYISLOCKED}, "10 :  This array is fixed or temporarily locked"},
     {{DISP_E_TYPEMISMATCH}, "13 :  Type mismatch"},
-    {{E_ACCESSDENIED}, "70 :  Permission denied"},
     {{STG_E_PATHNOTFOUND}, "76 :  Path not found"},
     {{REGDB_E_CLASSNOTREG}, "429 :  ActiveX component can't create object"},
     {{MK_E_UNAVAILABLE}, "429 :  ActiveX component can't create object"},
@@ -112,7 +109,6 @@ const std::pair<Failure, const char*> told[] = {
     {{DISP_E_BADPARAMCOUNT}, "450 :  Wrong number of arguments or invalid property assignment"},
     {{DISP_E_NOTACOLLECTION}, "451 :  Object not a collection"},
     {{DISP_E_BADVARTYPE}, "458 :  Variable uses an Automation type not supported"},
-    {{static_cast<HRESULT>(0x800706BA)}, "462 :  The remote server machine does not exist or is unavailable"},
     // What may have run is not tried again: a second attempt would not fail.
     {{DISP_E_EXCEPTION, 0x80010001}, "-2147418111 :  Call was rejected by callee."},
     {{DISP_E_EXCEPTION, 0x8001010A},

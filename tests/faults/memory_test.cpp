@@ -1,0 +1,191 @@
+// Creation, hosting and registration with every demand for memory refused in turn.
+#include <algorithm>
+
+#include "control/hosted.h"
+#include "outside/registry.h"
+#include "support/control_test.h"
+#include "support/short_memory.h"
+
+namespace {
+
+// What a control or the library is asked for; the first failure ends it.
+struct Use {
+  const char* name;
+  HRESULT (*run)(IUnknown* control);
+  bool may_go_without = false;  // something that only some of it needs
+};
+
+// Hands every question on to the control that it is made of.
+struct Outer final : IUnknown {
+  HRESULT WINAPI QueryInterface(REFIID id, void** object) override {
+    return id == IID_IUnknown ? *object = this, S_OK : inner->QueryInterface(id, object);
+  }
+  ULONG WINAPI AddRef() override { return 2; }
+  ULONG WINAPI Release() override { return 1; }
+  ComPtr<IUnknown> inner;
+};
+
+// The first failure of several calls.
+HRESULT first_failure(std::initializer_list<HRESULT> results) {
+  const auto* const failed = std::ranges::find_if(results, [](HRESULT result) { return FAILED(result); });
+  return failed == results.end() ? S_OK : *failed;
+}
+
+HRESULT host_in(Host host, IUnknown* control) {
+  StrictContainer container;
+  host(container, control);
+  EXPECT_EQ(container.held, 0) << container.log;
+  EXPECT_FALSE(container.window());
+  return container.log.find("OnUIActivate") == std::string::npos ? E_FAIL : S_OK;
+}
+
+HRESULT advise(IUnknown* control) {
+  StrictContainer container;
+  FORMATETC format = {CF_METAFILEPICT, nullptr, DVASPECT_CONTENT, -1, TYMED_MFPICT};
+  ComPtr<IConnectionPoint> point;
+  ComPtr<IEnumConnections> connections;
+  ComPtr<IEnumConnectionPoints> points;
+  DWORD view = 0, data = 0, properties = 0;
+  as<IConnectionPointContainer>(control)->FindConnectionPoint(IID_IPropertyNotifySink, &point);
+  const HRESULT advised =
+      first_failure({as<IOleObject>(control)->Advise(&container, &view),
+                     as<IDataObject>(control)->DAdvise(&format, ADVF_NODATA, &container, &data),
+                     point->Advise(static_cast<IAdviseSink*>(&container), &properties),
+                     point->EnumConnections(&connections),
+                     as<IConnectionPointContainer>(control)->EnumConnectionPoints(&points)});
+  connections.Reset();
+  as<IOleObject>(control)->Unadvise(view);
+  as<IDataObject>(control)->DUnadvise(data);
+  point->Unadvise(properties);
+  EXPECT_EQ(container.held, 0);
+  return advised;
+}
+
+HRESULT picture(IUnknown* control) {
+  HRESULT drawn = S_OK;
+  for (auto [kind, medium] : {std::pair{CF_METAFILEPICT, TYMED_MFPICT}, {CF_ENHMETAFILE, TYMED_ENHMF}}) {
+    FORMATETC format = {static_cast<CLIPFORMAT>(kind), nullptr, DVASPECT_CONTENT, -1, DWORD(medium)};
+    STGMEDIUM given = {};
+    const HRESULT got = as<IDataObject>(control)->GetData(&format, &given);
+    if (FAILED(got)) drawn = got;
+    EXPECT_EQ(SUCCEEDED(got), given.hGlobal != nullptr);
+    ReleaseStgMedium(&given);
+  }
+  return drawn;
+}
+
+const Use uses[] = {
+    {"instances",
+     [](IUnknown*) {
+       HRESULT result = S_OK;
+       for (const auto& ids : classes) {
+         ComPtr<IClassFactory> factory;
+         ComPtr<IUnknown> made;
+         Outer outer;
+         result =
+             first_failure({result, call<REFCLSID, REFIID, void**>("DllGetClassObject", guid(ids.class_id),
+                                                                   IID_IClassFactory, &factory)});
+         if (!factory) continue;
+         result = first_failure({result, factory->CreateInstance(nullptr, IID_IDispatch, &made),
+                                 factory->CreateInstance(&outer, IID_IUnknown, &outer.inner)});
+       }
+       return result;
+     }},
+    {"types",
+     [](IUnknown* control) {
+       ComPtr<ITypeInfo> dispatch, type;
+       return first_failure({as<IDispatch>(control)->GetTypeInfo(0, 0, &dispatch),
+                             as<IProvideClassInfo2>(control)->GetClassInfo(&type)});
+     }},
+    {"formats",
+     [](IUnknown* control) {
+       ComPtr<IEnumFORMATETC> all, copy;
+       const HRESULT begun = as<IDataObject>(control)->EnumFormatEtc(DATADIR_GET, &all);
+       return FAILED(begun) ? begun : all->Clone(&copy);
+     }},
+    {"name",
+     [](IUnknown* control) {
+       LPOLESTR name = nullptr;
+       const HRESULT got = as<IOleObject>(control)->GetUserType(USERCLASSTYPE_FULL, &name);
+       EXPECT_EQ(SUCCEEDED(got), name != nullptr);
+       CoTaskMemFree(name);
+       return got;
+     }},
+    {"listeners", advise},
+    {"pictures", picture, true},
+    {"Windows Forms", [](IUnknown* control) { return host_in(windows_forms, control); }, true},
+    {"Visual Basic", [](IUnknown* control) { return host_in(visual_basic, control); }, true},
+};
+
+// Each use is made of a new control, once for every demand for memory. Each time it succeeds or fails in a
+// way that says why, gives everything back, and leaves a control that succeeds as soon as there is memory.
+TEST(ShortOfMemory, ControlsFailCleanlyAndStayUsable) {
+  ShortMemory(1, false).end();
+  for (const auto& [name, run, may_go_without] : uses) {
+    EXPECT_EQ(run(create(classes[0]).Get()), S_OK) << name;
+    const long held = blocks_in_use();
+    for (const bool lasting : {false, true}) {
+      long demand = 0;
+      for (bool refused = true; refused;) {
+        SCOPED_TRACE(name + std::string(lasting ? " from demand " : ", demand ") + std::to_string(++demand));
+        auto control = create(classes[demand % std::size(classes)]);
+        ShortMemory memory(demand, lasting);
+        const HRESULT result = run(control.Get());
+        refused = memory.end();
+        const bool is_told = result == E_OUTOFMEMORY || (may_go_without && result == E_FAIL);
+        EXPECT_TRUE(result == S_OK ? may_go_without || !refused : is_told) << std::hex << result;
+        EXPECT_EQ(run(control.Get()), S_OK);
+        EXPECT_TRUE(is_usable(control.Get()));
+        control.Reset();
+        EXPECT_EQ(blocks_in_use(), held);
+        EXPECT_EQ(call("DllCanUnloadNow"), S_OK);
+      }
+      printf("counted: %ld demands of %s\n", demand - 1, name);
+    }
+  }
+}
+
+// The run-time's own needs for a thread's first exception must not end the process. Threads end, and come
+// again.
+TEST(ShortOfMemory, AThreadsFirstFailureIsOneLikeAnother) {
+  const auto fail = [](void* demand) WINAPI -> DWORD {
+    CoInitialize(nullptr);
+    const auto control = create(classes[1]);
+    {
+      ShortMemory memory(reinterpret_cast<LONG_PTR>(demand), true);
+      const auto result = late_call(control.Get(), L"GetRecurrencePattern");
+      EXPECT_TRUE(result == "bool 0" || result == "raised 800A0007 ") << result;
+    }
+    EXPECT_EQ(late_call(control.Get(), L"GetRecurrencePattern"), "bool 0");
+    EXPECT_EQ(late_call(control.Get(), L"GetLastErrorNumber"), "i2 91");
+    return 0;
+  };
+  ShortMemory(1, false).end();
+  for (LONG_PTR demand = 1; demand < 100; ++demand) {
+    const HANDLE thread = CreateThread(nullptr, 0, fail, reinterpret_cast<void*>(demand % 8 + 1), 0, nullptr);
+    EXPECT_EQ(WaitForSingleObject(thread, 30'000), WAIT_OBJECT_0);
+    CloseHandle(thread);
+  }
+}
+
+TEST(ShortOfMemory, NothingIsRegisteredOrUnregisteredByHalves) {
+  call<BOOL, LPCWSTR>("DllInstall", TRUE, L"user");  // makes the root of the user's classes, which stays
+  std::vector<Keys> standing;
+  for (const BOOL install : {TRUE, FALSE}) {
+    call<BOOL, LPCWSTR>("DllInstall", !install, L"user");
+    standing.push_back(registry(View::own_keys, HKEY_CURRENT_USER));
+    long demand = 0;
+    for (HRESULT result = E_FAIL; result != S_OK;) {
+      SCOPED_TRACE("from demand " + std::to_string(++demand));
+      ShortMemory memory(demand, true);
+      result = call<BOOL, LPCWSTR>("DllInstall", install, L"user");
+      EXPECT_EQ(memory.end(), result != S_OK);
+      EXPECT_TRUE(result == S_OK || result == E_OUTOFMEMORY) << std::hex << result;
+      EXPECT_EQ(registry(View::own_keys, HKEY_CURRENT_USER) == standing.back(), result != S_OK);
+    }
+    printf("counted: %ld demands of %s\n", demand - 1, install ? "registration" : "its removal");
+  }
+  EXPECT_EQ(registry(View::own_keys, HKEY_CURRENT_USER), standing.front());
+}
+
+}  // namespace
