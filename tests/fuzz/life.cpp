@@ -169,7 +169,7 @@ struct Office final : FakeOffice {
   FakeClass classes[4] = {{*this, {0xF0220001, 1, 1, {}}, "Word.Application", ""},
                           {*this, {0xF0220002, 1, 1, {}}, "Outlook.Application", ""},
                           {*this, {0xF0220003, 1, 1, {}}, "com.sun.star.ServiceManager", ""},
-                          {*this, {0x000209F0, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}}, "Global", "", false}};
+                          {*this, {0x000209F0, 0, 0, {0xC0, 0, 0, 0, 0, 0, 0, 0x46}}, "Global", "", Serving::unnamed}};
 };
 Office& office() {
   static Office programs;
