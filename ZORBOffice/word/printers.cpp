@@ -24,7 +24,9 @@ class PrintingLibrary {
     if (length > 0 && length < MAX_PATH)
       module_ = LoadLibraryW(std::wstring(folder, length).append(L"\\winspool.drv").c_str());
     if (module_) enumerate = reinterpret_cast<Enumerate>(GetProcAddress(module_, "EnumPrintersW"));
-    if (!enumerate) throw_hresult(HRESULT_FROM_WIN32(ERROR_MOD_NOT_FOUND));
+    if (enumerate) return;
+    FreeLibrary(module_);
+    throw_hresult(HRESULT_FROM_WIN32(ERROR_MOD_NOT_FOUND));
   }
   PrintingLibrary(const PrintingLibrary&) = delete;
   PrintingLibrary& operator=(const PrintingLibrary&) = delete;
