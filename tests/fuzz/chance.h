@@ -5,7 +5,6 @@
 
 #include <cstdint>
 #include <initializer_list>
-#include <iterator>
 #include <string>
 
 class Chance {
@@ -20,10 +19,6 @@ class Chance {
   }
   size_t below(size_t end) { return bits() % end; }
   bool one_in(size_t times) { return below(times) == 0; }
-  template <class List>
-  auto of(const List& list) {
-    return std::data(list)[below(std::size(list))];
-  }
   template <class Value>
   Value of(std::initializer_list<Value> list) {
     return list.begin()[below(list.size())];
@@ -31,25 +26,25 @@ class Chance {
 
   // Mostly small, often at an edge, sometimes anything.
   LONG number() {
-    static constexpr LONG edges[] = {-1,    0,         1,     127,     128,        255,
-                                     256,   -32768,    32767, 32768,   0x7FFFFFFF, -0x7FFFFFFF - 1,
-                                     65536, 1'000'000, 91,    999'999, 1'000'001};
     if (one_in(8)) return static_cast<LONG>(bits());
-    return one_in(2) ? of(edges) : static_cast<LONG>(below(60)) - 10;
+    if (one_in(2)) return static_cast<LONG>(below(60)) - 10;
+    return of<LONG>({-1, 0, 127, 128, 255, 256, -32768, 32767, 32768, 0x7FFFFFFF, -0x7FFFFFFF - 1, 65536, 91,
+                     999'999, 1'000'000, 1'000'001});
   }
   double fraction() {
-    const double odd[] = {0, -0.5, 1e300, 1e-300, 2958465.9, -657435, 1e9, 0.1};
-    return one_in(2) ? of(odd) : number() / 8.0;
+    return one_in(2) ? of<double>({0, -0.5, 1e300, 1e-300, 2958465.9, -657435, 1e9, 0.1}) : number() / 8.0;
   }
 
   // What members know, numbers, dates, any units, and rarely a megabyte.
   std::wstring text() {
-    static constexpr const wchar_t* known[] = {
-        L"Appointment", L"Contact", L"Note",       L"Task",   L"Email",      L"Subject", L"Start",
-        L"Body",        L"12:30",   L"1/2/2003",   L"7",      L"-1.5",       L"True",    L"Attachments",
-        L"Status",      L"EntryID", L"Importance", L"Parent", L"C:\\a.docx", L"",        L"RecurrenceType"};
     if (one_in(2'000)) return std::wstring(below(500'000), L'm');
-    if (!one_in(3)) return of(known);
+    if (!one_in(3))
+      return of({L"Appointment",   L"Contact",     L"Note",       L"Task",
+                 L"Email",         L"Subject",     L"Start",      L"Body",
+                 L"12:30",         L"1/2/2003",    L"7",          L"-1.5",
+                 L"True",          L"Attachments", L"Status",     L"EntryID",
+                 L"Importance",    L"Parent",      L"C:\\a.docx", L"",
+                 L"RecurrenceType"});
     std::wstring units(below(12), L' ');
     for (wchar_t& unit : units) unit = static_cast<wchar_t>(one_in(3) ? bits() : L' ' + below(95));
     return units;

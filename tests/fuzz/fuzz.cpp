@@ -7,6 +7,7 @@
 // the same control.
 #include <algorithm>
 #include <cstdlib>
+#include <cstring>
 
 #include "life.h"
 #include "support/import_table.h"
@@ -24,13 +25,29 @@ int WINAPI answer_box(HWND, LPCWSTR, LPCWSTR, UINT) {
   return IDOK;
 }
 
+// What the library frees, which is filled until the control's end: whoever still reads it crashes, and
+// whoever wrote to it is told of.
+constexpr unsigned char freed_byte = 0xDD;
+std::vector<unsigned char*> freed;
+void free_later(void* block) {
+  if (!block) return;
+  std::memset(block, freed_byte, _msize(block));
+  freed.push_back(static_cast<unsigned char*>(block));
+}
+void free_all() {
+  for (unsigned char* block : std::exchange(freed, {})) {
+    const auto is_other = [](unsigned char byte) { return byte != freed_byte; };
+    if (std::any_of(block, block + _msize(block), is_other)) report.wrong("freed memory was written");
+    free(block);
+  }
+}
+
 LONG WINAPI crashed(EXCEPTION_POINTERS* exception) {
   const auto& record = *exception->ExceptionRecord;
   if (record.ExceptionCode >> 28 != 0xC) return EXCEPTION_CONTINUE_SEARCH;
-  printf("fuzz: seed %llu call %llu (%s): crash %08lX at %p, library at %p\n", report.seed, report.call,
-         report.what, record.ExceptionCode, record.ExceptionAddress,
-         static_cast<void*>(GetModuleHandleW(L"ZORBOffice.ocx")));
-  fflush(stdout);
+  report.say("crash", record.ExceptionCode);
+  report.say("at, counted from the library's begin,",
+             static_cast<BYTE*>(record.ExceptionAddress) - reinterpret_cast<BYTE*>(outside::library()));
   TerminateProcess(GetCurrentProcess(), 2);
   return EXCEPTION_CONTINUE_SEARCH;
 }
@@ -39,16 +56,18 @@ DWORD WINAPI watch(void*) {
   for (uint64_t seen = ~0ull;;) {
     Sleep(30'000);
     if (std::exchange(seen, report.call) != report.call) continue;
-    printf("fuzz: seed %llu call %llu (%s): hangs\n", report.seed, report.call, report.what);
-    fflush(stdout);
+    report.say("hangs");
     TerminateProcess(GetCurrentProcess(), 3);
   }
 }
 
 void run(uint64_t first, uint64_t end) {
   for (uint64_t number = first / calls_of_a_life * calls_of_a_life; number < end;) {
-    Life life(report.seed, number);
-    for (uint64_t i = 0; i < calls_of_a_life && number < end; ++i) life.call(report.seed, number++);
+    {
+      Life life(report.seed, number);
+      for (uint64_t i = 0; i < calls_of_a_life && number < end; ++i) life.call(report.seed, number++);
+    }
+    free_all();
   }
 }
 
@@ -86,6 +105,7 @@ int main(int count, char** arguments) {
   AddVectoredExceptionHandler(1, crashed);
   CloseHandle(CreateThread(nullptr, 0, watch, nullptr, 0, nullptr));
   replace_import("MessageBoxW", reinterpret_cast<void*>(answer_box));
+  replace_import("free", reinterpret_cast<void*>(free_later));
   constexpr uint64_t part = 10'000;
   for (uint64_t done = 0; done < calls && report.faults < 10; done += part) {
     report.verbose ? run(first, first + calls)

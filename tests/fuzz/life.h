@@ -1,27 +1,30 @@
-// One control from its creation to its end, among a container, media and office objects that do anything.
+// One control from its creation to its end, among a container and objects that do and answer anything.
 #pragma once
-
-#include <memory>
 
 #include "chance.h"
 #include "control/hosted.h"
-#include "support/fake_offices.h"
 #include "support/text.h"
 
 // What is wrong is said with the seed and the number of the call under way, and counted.
 struct Report {
   uint64_t seed = 0, call = 0;
-  const char* what = "";  // the method under way, for a crash
+  std::string what;  // the method under way
   bool verbose = false;
   int faults = 0;
 
-  void wrong(const char* why, unsigned long value = 0);
-  void begin(const char* method, const wchar_t* member = L"", const std::string& arguments = "");
+  void say(const char* why, size_t value = 0) const {
+    printf("fuzz: seed %llu call %llu (%s): %s %08llX\n", seed, call, what.c_str(), why, 0ull + value);
+    fflush(stdout);
+  }
+  void wrong(const char* why, unsigned long value = 0) { ++faults, say(why, value); }
+  void begin(const std::string& method) {
+    what = method;
+    if (verbose) say("begins");
+  }
 };
 inline Report report;
 
-// The host's reference is the only one: a method that does not keep the instance alive crashes when that is
-// let go of.
+// The host's reference is the only one: a method that does not keep the instance alive uses what is freed.
 class Life {
  public:
   Life(uint64_t seed, uint64_t number);
@@ -37,7 +40,6 @@ class Life {
   // An owned value of any kind, and one of a parameter's type.
   VARIANT value();
   VARIANT value_of(VARTYPE type);
-  IDispatch* object();
   void set_error_info();
 
   // An interface of the control, not counted.
@@ -54,6 +56,8 @@ class Life {
   const outside::ClassIds* ids = nullptr;
   IUnknown* control = nullptr;  // null once the host has let go of it
   StrictContainer container;
+  static inline int objects = 0;  // that somebody still holds
+  static inline Life* current = nullptr;
 
  private:
   void begin();
@@ -63,16 +67,11 @@ class Life {
 
   int depth_ = 0;
   Outer outer_;
-  std::unique_ptr<struct Medium> medium_;
-
- public:
-  IStream* const stream;
-  IStorage* const storage;
-  IPropertyBag* const bag;
-  static inline int objects = 0;  // that somebody still holds
-  static inline Life* current = nullptr;
 };
 
-// What is called: a member late or by its slot or the names of some; any other method.
+// Calls the method of that slot of a vtable; an argument is the value of its variant's type.
+HRESULT call_slot(IUnknown* target, size_t slot, std::vector<VARIANT>& arguments);
+
+// What is called: a member late or by its slot; any other method.
 void call_automation(Life& life);
 void call_hosting(Life& life);
