@@ -71,7 +71,10 @@ void invoke(Life& life, const Callable& called) {
   for (size_t i = 0; i < count; ++i) {
     const size_t position = count - 1 - i;
     const bool typed = proper && position < wanted && !chance.one_in(20);
-    variables[i].value = typed ? life.value_of(called.types[position] & VT_TYPEMASK) : life.value();
+    const VARTYPE type = !typed              ? VARTYPE{VT_VARIANT}
+                         : chance.one_in(10) ? VARTYPE{VT_DISPATCH}  // with a default property
+                                             : called.types[position] & VT_TYPEMASK;
+    variables[i].value = life.value_of(type);
     arguments[i] = form_of(chance, variables[i]);
     kinds += " " + std::to_string(V_VT(&arguments[i]));
   }

@@ -44,7 +44,11 @@ Life::Life(uint64_t seed, uint64_t number) : chance(seed, ~number) {
 
 Life::~Life() {
   report.begin("the end");
-  if (control && chance.one_in(2)) raw<IOleObject>()->SetClientSite(nullptr);
+  container.interruption = nullptr, container.failure = S_OK;
+  if (control && chance.one_in(2)) {
+    raw<IOleObject>()->SetClientSite(nullptr);
+    if (container.in_place || container.with_ui) report.wrong("the container takes it for active");
+  }
   let_go();
   container.forget_active_object();
   // With the last instance goes what the process keeps of the office.
@@ -66,6 +70,7 @@ void Life::call(uint64_t seed, uint64_t number) {
 
 void Life::begin() {
   container.forget_active_object();
+  container.in_place = container.with_ui = 0;
   if (outer_.inner) report.wrong("an aggregated control is held", outer_.references);
   ids = &outside::classes[chance.below(std::size(outside::classes))];
   const auto factory = outside::factory(*ids);
@@ -79,16 +84,18 @@ void Life::begin() {
 void Life::any_call() {
   office().fail_at = chance.one_in(6) ? office().log.size() + 1 : 0;
   office().failure = {chance.of(failures), DWORD(E_FAIL)};
+  ends_ = chance.one_in(12);
   chance.one_in(2) ? call_hosting(*this) : call_automation(*this);
 }
 
 void Life::let_go() {
+  ends_ = false;
   if (IUnknown* const last = std::exchange(control, nullptr)) last->Release();
 }
 
 HRESULT Life::happen(EXCEPINFO* info) {
   const size_t what = chance.below(64);
-  if (what == 0) let_go();
+  if (what == 0 || ends_) let_go();
   if (what >= 1 && what < 4 && control && depth_ < 2) {
     ++depth_;
     any_call();

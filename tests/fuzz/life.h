@@ -66,6 +66,7 @@ class Life {
   HRESULT failed(EXCEPINFO* info);
 
   int depth_ = 0;
+  bool ends_ = false;  // with the first call that the control makes
   Outer outer_;
 };
 
