@@ -84,18 +84,6 @@ inline HRESULT resize(IUnknown* control, LONG width, LONG height) {
   return as<IOleObject>(control)->SetExtent(DVASPECT_CONTENT, &extent);
 }
 
-inline bool is_usable(IUnknown* control) {
-  wchar_t text[] = L"GetLastErrorNumber";
-  LPOLESTR name = text;
-  DISPID id = DISPID_UNKNOWN;
-  const bool known = SUCCEEDED(as<IDispatch>(control)->GetIDsOfNames(IID_NULL, &name, 1, 0, &id));
-  const bool saved = SUCCEEDED(as<IPersistStreamInit>(control)->Save(stream_of("").Get(), FALSE));
-  const HDC dc = CreateCompatibleDC(nullptr);
-  const HRESULT drawn = draw(control, dc, {0, 0, 28, 28});
-  DeleteDC(dc);
-  return known && saved && drawn == S_OK;
-}
-
 inline void pump() {
   for (MSG message; PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);) DispatchMessageW(&message);
 }

@@ -112,6 +112,7 @@ TEST(Verbs, that_fail_leave_nothing_active_and_are_done_anew) {
     const HRESULT status = activate();
     EXPECT_EQ(container.in_place, status == S_OK) << container.log;
     calls = container.calls;
+    container.special_call = 0;
     DestroyWindow(container.window());
     EXPECT_EQ(activate(), S_OK) << container.log;
     object->SetClientSite(nullptr);
@@ -174,7 +175,6 @@ TEST(Extent, is_kept_and_refused_where_nobody_could_see_or_draw_it) {
     EXPECT_EQ(as<IViewObject2>(control)->GetExtent(DVASPECT_CONTENT, 0, nullptr, &extent), S_OK);
     EXPECT_EQ(extent.cx, kept);
     EXPECT_EQ(container.take_log(), log) << width;
-    EXPECT_TRUE(is_usable(control.Get())) << width;
   }
 }
 

@@ -9,10 +9,10 @@ ComPtr<IDispatch> sized(const ClassIds& ids, LONG width, LONG height) {
   return control;
 }
 
-std::tuple<LONG, LONG, bool> state_of(IUnknown* control) {
+std::pair<LONG, LONG> state_of(IUnknown* control) {
   SIZEL extent = {};
   EXPECT_EQ(as<IOleObject>(control)->GetExtent(DVASPECT_CONTENT, &extent), S_OK);
-  return {extent.cx, extent.cy, is_usable(control)};
+  return {extent.cx, extent.cy};
 }
 
 TEST(Persistence, brings_the_extent_back_by_every_interface) {
@@ -35,13 +35,13 @@ TEST(Persistence, brings_the_extent_back_by_every_interface) {
     EXPECT_EQ(as<IPersistPropertyBag>(loaded[2])->Load(&bag, nullptr), S_OK);
     for (const auto& one : loaded) {
       EXPECT_EQ(as<IPersistStreamInit>(one)->IsDirty(), S_FALSE);
-      EXPECT_EQ(state_of(one.Get()), std::tuple(4321, 1234, true));
+      EXPECT_EQ(state_of(one.Get()), std::pair(4321L, 1234L));
     }
     CLSID id = {};
     EXPECT_EQ(as<IPersist>(saved)->GetClassID(&id), S_OK);
     EXPECT_EQ(id, guid(ids.class_id));
     EXPECT_EQ(streaming->InitNew(), S_OK);
-    EXPECT_EQ(state_of(saved.Get()), std::tuple(741, 741, true));
+    EXPECT_EQ(state_of(saved.Get()), std::pair(741L, 741L));
   }
 }
 
@@ -56,16 +56,9 @@ TEST(Persistence, loads_what_was_ever_saved_and_refuses_what_is_damaged) {
     rows.emplace_back(record.substr(0, 8) + extent, STG_E_DOCFILECORRUPT);
   }
   for (const auto& [bytes, status] : rows) {
-    const auto control = sized(classes[0], 2222, 1111), stored = sized(classes[0], 2222, 1111);
+    const auto control = sized(classes[0], 2222, 1111);
     EXPECT_EQ(as<IPersistStreamInit>(control)->Load(stream_of(bytes).Get()), status) << bytes.size();
-    const auto file = new_storage();
-    ComPtr<IStream> stream;
-    ASSERT_EQ(file->CreateStream(L"Contents", STGM_READWRITE | STGM_SHARE_EXCLUSIVE, 0, 0, &stream), S_OK);
-    stream->Write(bytes.data(), static_cast<ULONG>(bytes.size()), nullptr);
-    stream.Reset();
-    EXPECT_EQ(as<IPersistStorage>(stored)->Load(file.Get()), status) << bytes.size();
-    for (const auto& one : {control, stored})
-      EXPECT_EQ(state_of(one.Get()), status ? std::tuple(2222, 1111, true) : std::tuple(1000, 900, true));
+    EXPECT_EQ(state_of(control.Get()), status ? std::pair(2222L, 1111L) : std::pair(1000L, 900L));
   }
   EXPECT_EQ(as<IPersistStorage>(create(classes[0]).Get())->Load(new_storage().Get()), STG_E_FILENOTFOUND);
 }
@@ -83,7 +76,7 @@ TEST(Persistence, takes_an_empty_bag_for_the_defaults_and_refuses_a_wrong_one) {
     bag.failure = failure;
     const auto control = sized(classes[0], 2222, 1111);
     EXPECT_EQ(as<IPersistPropertyBag>(control)->Load(&bag, nullptr), status);
-    EXPECT_EQ(state_of(control.Get()), std::tuple(width, status ? 1111 : 741, true));
+    EXPECT_EQ(state_of(control.Get()), std::pair(width, status ? 1111L : 741L));
     EXPECT_EQ(as<IPersistPropertyBag>(control)->Save(&bag, TRUE, TRUE), failure);
   }
 }

@@ -13,14 +13,6 @@ struct Callable {
   std::vector<VARTYPE> types;  // the result's is the last
 };
 
-const std::vector<Callable>& callables_of(const ClassIds& ids) {
-  static std::map<const ClassIds*, std::vector<Callable>> known;
-  if (!known.contains(&ids))
-    for (const auto& row : outside::members_of(ids))
-      known[&ids].push_back({row, outside::types_of(row.signature)});
-  return known[&ids];
-}
-
 // A variable of the host's. It stands beside others: what is written behind it changes their types.
 struct Variable {
   VARIANT value = {};
@@ -96,8 +88,9 @@ void invoke(Life& life, const Callable& called) {
   if (status != S_OK && HRESULT_FACILITY(status) != FACILITY_DISPATCH)
     report.wrong("Invoke's answer", status);
   if (wants_result) {
-    const VARTYPE expected = status == S_OK ? called.types.back() : VARTYPE{VT_EMPTY}, type = V_VT(&result);
-    if (id == called.member.id && type != expected && !(expected == VT_VARIANT && type == VT_EMPTY))
+    const VARTYPE type = V_VT(&result), typed = called.types.back();
+    const bool is_empty = status != S_OK || typed == VT_VARIANT;
+    if (id == called.member.id && type != (is_empty ? VARTYPE{VT_EMPTY} : typed))
       report.wrong("the type of a result", type);
     if (type == VT_BSTR && !V_BSTR(&result)) report.wrong("a result without its text");
     VariantClear(&result);
@@ -143,11 +136,13 @@ void call_member(Life& life, const Callable& called, size_t slot) {
   if (outside::take(source) != (FAILED(status) ? L"ZORBOffice" : L""))
     report.wrong("another failure's information", status);
   if (!wants_result) return;
-  const size_t size = type == VT_UI1       ? 1
-                      : type == VT_I4      ? 4
-                      : type == VT_BSTR    ? sizeof(BSTR)
-                      : type == VT_VARIANT ? sizeof(VARIANT)
-                                           : 2;
+  std::map<VARTYPE, size_t> sizes = {{VT_UI1, 1},
+                                     {VT_I2, 2},
+                                     {VT_BOOL, 2},
+                                     {VT_I4, 4},
+                                     {VT_BSTR, sizeof(BSTR)},
+                                     {VT_VARIANT, sizeof(VARIANT)}};
+  const size_t size = sizes[type];
   if (FAILED(status) && std::memcmp(result, zero, type == VT_VARIANT ? 2 : size) != 0)
     report.wrong("a failed call's result");
   if (result[size] != 0xCD) report.wrong("memory behind the result was written");
@@ -160,7 +155,11 @@ void call_member(Life& life, const Callable& called, size_t slot) {
 }  // namespace
 
 void call_automation(Life& life) {
-  const auto& members = callables_of(*life.ids);
+  static std::map<const ClassIds*, std::vector<Callable>> known;
+  auto& members = known[life.ids];
+  if (members.empty())
+    for (const auto& row : outside::members_of(*life.ids))
+      members.push_back({row, outside::types_of(row.signature)});
   const size_t slot = life.chance.below(members.size());
   life.chance.one_in(3) ? call_member(life, members[slot], slot) : invoke(life, members[slot]);
 }

@@ -47,7 +47,7 @@ Life::~Life() {
   container.interruption = nullptr, container.failure = S_OK;
   if (control && chance.one_in(2)) {
     raw<IOleObject>()->SetClientSite(nullptr);
-    if (container.in_place || container.with_ui) report.wrong("the container takes it for active");
+    if (container.in_place || container.with_ui || container.window()) report.wrong("it is still active");
   }
   let_go();
   container.forget_active_object();

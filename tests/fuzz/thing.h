@@ -19,7 +19,7 @@ class Thing final : public Counted<IDispatch, IEnumVARIANT, ISequentialStream, I
   explicit Thing(Life& life) : Counted(references_), life_(life), chance_(life.chance) { ++Life::objects; }
 
   HRESULT WINAPI QueryInterface(REFIID id, void** object) override {
-    if (chance_.one_in(8)) life_.happen();
+    if (chance_.one_in(2)) life_.happen();
     if (id != IID_IUnknown && chance_.one_in(50)) return *object = nullptr, E_NOINTERFACE;
     return Counted::QueryInterface(id, object);
   }
