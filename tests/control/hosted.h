@@ -84,6 +84,103 @@ inline HRESULT resize(IUnknown* control, LONG width, LONG height) {
   return as<IOleObject>(control)->SetExtent(DVASPECT_CONTENT, &extent);
 }
 
+inline bool is_usable(IUnknown* control) {
+  wchar_t text[] = L"GetLastErrorNumber";
+  LPOLESTR name = text;
+  DISPID id = DISPID_UNKNOWN;
+  const bool known = SUCCEEDED(as<IDispatch>(control)->GetIDsOfNames(IID_NULL, &name, 1, 0, &id));
+  const bool saved = SUCCEEDED(as<IPersistStreamInit>(control)->Save(stream_of("").Get(), FALSE));
+  const HDC dc = CreateCompatibleDC(nullptr);
+  const HRESULT drawn = draw(control, dc, {0, 0, 28, 28});
+  DeleteDC(dc);
+  return known && saved && drawn == S_OK;
+}
+
+inline void verb(StrictContainer& container, IUnknown* control, LONG verb) {
+  const HRESULT status =
+      as<IOleObject>(control)->DoVerb(verb, nullptr, &container, 0, container.form, &container.position);
+  EXPECT_FALSE(container.out_of_order) << container.log;
+  EXPECT_TRUE(container.in_place == 1 || !container.window()) << container.log;
+  const bool certain = verb == OLEIVERB_INPLACEACTIVATE;
+  EXPECT_TRUE(!certain || container.in_place == (status == S_OK)) << container.log;
+}
+
 inline void pump() {
   for (MSG message; PeekMessageW(&message, nullptr, 0, 0, PM_REMOVE);) DispatchMessageW(&message);
+}
+
+// How a container creates, loads, shows, activates, saves and closes a control, in its own order. Failures
+// are met as a container meets them: it goes on.
+using Host = void (*)(StrictContainer& container, IUnknown* control);
+inline void windows_forms(StrictContainer& container, IUnknown* control) {
+  const auto object = as<IOleObject>(control);
+  DWORD cookie = 0;
+  object->SetClientSite(&container);
+  const auto persistence = as<IPersistStreamInit>(control);
+  const auto stream = stream_of("");
+  persistence->Save(stream.Get(), FALSE);
+  stream->Seek({}, STREAM_SEEK_SET, nullptr);
+  persistence->Load(stream.Get());
+  resize(control, 767, 741);
+  ComPtr<IConnectionPoint> point;
+  as<IConnectionPointContainer>(control)->FindConnectionPoint(IID_IPropertyNotifySink, &point);
+  point->Advise(static_cast<IAdviseSink*>(&container), &cookie);
+  verb(container, control, OLEIVERB_HIDE);
+  verb(container, control, OLEIVERB_INPLACEACTIVATE);
+  ComPtr<IOleClientSite> site;
+  object->GetClientSite(&site);
+  const auto in_place = as<IOleInPlaceObject>(control);
+  in_place->SetObjectRects(&container.position, &container.position);
+  verb(container, control, OLEIVERB_SHOW);
+  verb(container, control, OLEIVERB_UIACTIVATE);
+  pump();
+  MSG tab = {nullptr, WM_KEYDOWN, VK_TAB, 0, 0, {}};
+  as<IOleInPlaceActiveObject>(control)->TranslateAccelerator(&tab);
+  in_place->UIDeactivate();
+  as<IOleControl>(control)->OnAmbientPropertyChange(DISPID_AMBIENT_BACKCOLOR);
+  persistence->Save(stream.Get(), TRUE);
+  point->Unadvise(cookie);
+  in_place->InPlaceDeactivate();
+  object->Close(OLECLOSE_NOSAVE);
+  object->SetClientSite(nullptr);
+}
+
+inline void visual_basic(StrictContainer& container, IUnknown* control) {
+  IAdviseSink* const sink = &container;
+  QACONTAINER given = {};
+  QACONTROL taken = {};
+  given.cbSize = offsetof(QACONTAINER, pOleControlSite);
+  taken.cbSize = sizeof taken;
+  given.pClientSite = &container;
+  given.pAdviseSink = reinterpret_cast<IAdviseSinkEx*>(sink);
+  given.pPropertyNotifySink = &container;
+  given.pUnkEventSink = sink;
+  given.dwAmbientFlags = QACONTAINER_USERMODE;
+  given.colorBack = container.background;
+  as<IQuickActivate>(control)->QuickActivate(&given, &taken);
+  Bag bag;
+  const auto persistence = as<IPersistPropertyBag>(control);
+  persistence->Load(&bag, nullptr);
+  const auto object = as<IOleObject>(control);
+  resize(control, 2000, 1000);
+  DWORD connection = 0;
+  object->Advise(sink, &connection);
+  verb(container, control, OLEIVERB_INPLACEACTIVATE);
+  if (container.window()) SendMessageW(container.window(), WM_LBUTTONDOWN, 0, 0);
+  pump();
+  verb(container, control, OLEIVERB_HIDE);
+  persistence->Save(&bag, TRUE, TRUE);
+  resize(control, 1000, 1000);
+  object->Close(OLECLOSE_SAVEIFDIRTY);
+  object->Unadvise(connection);
+  as<IViewObject>(control)->SetAdvise(DVASPECT_CONTENT, 0, nullptr);
+  GUID events_id = {};
+  as<IProvideClassInfo2>(control)->GetGUID(GUIDKIND_DEFAULT_SOURCE_DISP_IID, &events_id);
+  ComPtr<IConnectionPoint> events, properties;
+  const auto points = as<IConnectionPointContainer>(control);
+  points->FindConnectionPoint(events_id, &events);
+  points->FindConnectionPoint(IID_IPropertyNotifySink, &properties);
+  events->Unadvise(taken.dwEventCookie);
+  properties->Unadvise(taken.dwPropNotifyCookie);
+  object->SetClientSite(nullptr);
 }
