@@ -1,4 +1,4 @@
-// Invoke and the members' slots, with arguments in every form.
+// GetIDsOfNames, Invoke and the members' slots, with arguments in every form.
 #include <algorithm>
 #include <cstring>
 #include <map>
@@ -152,6 +152,25 @@ void call_member(Life& life, const Callable& called, size_t slot) {
   }
 }
 
+// Names of members, of nothing, and no name at all.
+void find_names(Life& life, const Callable& called) {
+  constexpr DISPID unset = 0x7EADBEEF;
+  const std::wstring signature = called.member.signature;
+  const size_t name = signature.find(L' ') + 1;
+  std::vector<std::wstring> texts(1 + life.chance.below(5));
+  for (auto& text : texts) text = life.chance.text();
+  if (!life.chance.one_in(3)) texts[0] = signature.substr(name, signature.find(L'(') - name);
+  std::vector<LPOLESTR> names;
+  for (auto& text : texts) names.push_back(life.chance.one_in(20) ? nullptr : text.data());
+  std::vector<DISPID> found(names.size() + 1, unset);
+  report.begin("GetIDsOfNames " + utf8(signature));
+  const HRESULT status = life.raw<IDispatch>()->GetIDsOfNames(
+      IID_NULL, names.data(), static_cast<UINT>(names.size()), 0, found.data());
+  const bool known = std::ranges::find(found, DISPID_UNKNOWN) == found.end();
+  if (status != (known ? S_OK : DISP_E_UNKNOWNNAME)) report.wrong("GetIDsOfNames' answer", status);
+  if (std::ranges::find(found, unset) != found.end() - 1) report.wrong("identifiers were left unset");
+}
+
 }  // namespace
 
 void call_automation(Life& life) {
@@ -161,5 +180,6 @@ void call_automation(Life& life) {
     for (const auto& row : outside::members_of(*life.ids))
       members.push_back({row, outside::types_of(row.signature)});
   const size_t slot = life.chance.below(members.size());
+  if (life.chance.one_in(20)) return find_names(life, members[slot]);
   life.chance.one_in(3) ? call_member(life, members[slot], slot) : invoke(life, members[slot]);
 }
