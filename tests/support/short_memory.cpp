@@ -63,8 +63,14 @@ class Spy final : public IMallocSpy {
 
 struct Import {
   const char* name;
-  void* replacement;
+  void* own;
 };
+
+void replace(const std::same_as<Import> auto&... imports) {
+  for (const auto& [name, own] : {imports...}) EXPECT_TRUE(replace_import(name, own)) << name;
+}
+
+Import instead_of(const char* name, auto* own) { return {name, reinterpret_cast<void*>(own)}; }
 
 // A function of the system that fails where the demand is refused: with E_OUTOFMEMORY, or with no handle.
 template <class Own = decltype([] {}), class Result, class... Parameters>
@@ -75,7 +81,7 @@ Import limited(const char* name, Result(WINAPI* function)(Parameters...)) {
     if constexpr (std::is_same_v<Result, HRESULT>) return E_OUTOFMEMORY;
     return Result{};
   };
-  return {name, reinterpret_cast<void*>(own)};
+  return instead_of(name, own);
 }
 
 void replace_all() {
@@ -83,37 +89,22 @@ void replace_all() {
   CoRegisterMallocSpy(&spy);
   // The system's strings would outlive their use.
   reinterpret_cast<void(WINAPI*)()>(GetProcAddress(GetModuleHandleW(L"oleaut32"), "SetOaNoCache"))();
-  const Import imports[] = {{"malloc", reinterpret_cast<void*>(limited_malloc)},
-                            {"calloc", reinterpret_cast<void*>(limited_calloc)},
-                            {"realloc", reinterpret_cast<void*>(limited_realloc)},
-                            {"free", reinterpret_cast<void*>(counting_free)},
-                            limited("CLSIDFromProgID", CLSIDFromProgID),
-                            limited("CoCreateInstance", CoCreateInstance),
-                            limited("CoTaskMemAlloc", CoTaskMemAlloc),
-                            limited("CreateDataAdviseHolder", CreateDataAdviseHolder),
-                            limited("CreateEnhMetaFileW", CreateEnhMetaFileW),
-                            limited("CreateErrorInfo", CreateErrorInfo),
-                            limited("CreateMetaFileW", CreateMetaFileW),
-                            limited("CreateOleAdviseHolder", CreateOleAdviseHolder),
-                            limited("CreateRectRgnIndirect", CreateRectRgnIndirect),
-                            limited("CreateSolidBrush", CreateSolidBrush),
-                            limited("CreateWindowExW", CreateWindowExW),
-                            limited("FormatMessageW", FormatMessageW),
-                            limited("GlobalAlloc", GlobalAlloc),
-                            limited("LoadRegTypeLib", LoadRegTypeLib),
-                            limited("LoadTypeLibEx", LoadTypeLibEx),
-                            limited("RegCreateKeyExW", RegCreateKeyExW),
-                            limited("RegSetKeyValueW", RegSetKeyValueW),
-                            limited("SysAllocString", SysAllocString),
-                            limited("SysAllocStringLen", SysAllocStringLen),
-                            limited("SysReAllocStringLen", SysReAllocStringLen),
-                            limited("VarBstrFromDate", VarBstrFromDate),
-                            limited("VarFormat", VarFormat),
-                            limited("VariantChangeType", VariantChangeType),
-                            limited("VariantChangeTypeEx", VariantChangeTypeEx),
-                            limited("VariantCopy", VariantCopy),
-                            limited("VariantCopyInd", VariantCopyInd)};
-  for (const auto& [name, replacement] : imports) EXPECT_TRUE(replace_import(name, replacement)) << name;
+  replace(instead_of("malloc", limited_malloc), instead_of("calloc", limited_calloc),
+          instead_of("realloc", limited_realloc), instead_of("free", counting_free));
+  replace(
+      limited("CLSIDFromProgID", CLSIDFromProgID), limited("CoCreateInstance", CoCreateInstance),
+      limited("CoTaskMemAlloc", CoTaskMemAlloc), limited("CreateDataAdviseHolder", CreateDataAdviseHolder),
+      limited("CreateEnhMetaFileW", CreateEnhMetaFileW), limited("CreateErrorInfo", CreateErrorInfo),
+      limited("CreateMetaFileW", CreateMetaFileW), limited("CreateOleAdviseHolder", CreateOleAdviseHolder),
+      limited("CreateRectRgnIndirect", CreateRectRgnIndirect), limited("CreateSolidBrush", CreateSolidBrush),
+      limited("CreateWindowExW", CreateWindowExW), limited("FormatMessageW", FormatMessageW),
+      limited("GlobalAlloc", GlobalAlloc), limited("LoadRegTypeLib", LoadRegTypeLib),
+      limited("LoadTypeLibEx", LoadTypeLibEx), limited("RegCreateKeyExW", RegCreateKeyExW),
+      limited("RegSetKeyValueW", RegSetKeyValueW), limited("SysAllocString", SysAllocString),
+      limited("SysAllocStringLen", SysAllocStringLen), limited("SysReAllocStringLen", SysReAllocStringLen),
+      limited("VarBstrFromDate", VarBstrFromDate), limited("VarFormat", VarFormat),
+      limited("VariantChangeType", VariantChangeType), limited("VariantChangeTypeEx", VariantChangeTypeEx),
+      limited("VariantCopy", VariantCopy), limited("VariantCopyInd", VariantCopyInd));
   // The run-time takes something for a thread's first exception, and keeps it.
   late_call(outside::create(outside::classes[1]).Get(), L"SaveItem", {L"Note"});
 }
