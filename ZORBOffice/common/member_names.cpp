@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <optional>
+#include <utility>
 
 #include "ZORBOffice/common/bstr.h"
 #include "ZORBOffice/common/busy_server.h"
@@ -69,7 +70,9 @@ void MemberNames::Release() {
 const MemberId* MemberNames::find(Names names) {
   if (const Entry* entry = known(names)) return &entry->id;
   if (type_) return published(names);
-  return declared_ ? declared_->find(names) : nullptr;
+  if (!declared_) return nullptr;
+  const Entry* entry = declared_->known(names);
+  return entry ? &entry->id : declared_->published(names);
 }
 
 void MemberNames::remember(Names names, const MemberId& id) {
@@ -82,13 +85,13 @@ void MemberNames::remember(Names names, const MemberId& id) {
 }
 
 MemberNames* MemberNames::element() {
-  if (declared_) return declared_->element();
-  if (!type_) return nullptr;
-  if (!element_) {
-    const MemberDescription member = describe_member(type_.get(), DISPID_VALUE);
-    element_ = member.answer ? types_->type(member.answer) : nullptr;
+  MemberNames& type = declared_ ? *declared_ : *this;
+  if (!type.type_) return nullptr;
+  if (!type.element_) {
+    const MemberDescription member = describe_member(type.type_.get(), DISPID_VALUE);
+    type.element_ = member.answer ? types_->type(member.answer) : nullptr;
   }
-  return *element_;
+  return *type.element_;
 }
 
 MemberNames::Entry* MemberNames::known(Names names) {
@@ -131,7 +134,7 @@ ComPtr<MemberNames> PublishedTypes::of_root(IDispatch* root, MemberNames& root_n
 }
 
 MemberNames* PublishedTypes::type(ComPtr<ITypeInfo> information) {
-  const ComPtr<ITypeInfo> dispatch = dispatch_type(information);
+  const ComPtr<ITypeInfo> dispatch = dispatch_type(std::move(information));
   const std::optional<GUID> id = dispatch ? type_id(dispatch.get()) : std::nullopt;
   if (!id) return nullptr;
   for (const auto& known : types_) {

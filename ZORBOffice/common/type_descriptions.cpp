@@ -185,7 +185,7 @@ DISPID common_member_id(ITypeLib* library, const wchar_t* name) {
   for (UINT i = 0; i < count; ++i) {
     ComPtr<ITypeInfo> type;
     DISPID id = DISPID_UNKNOWN;
-    LPOLESTR asked = const_cast<LPOLESTR>(name);
+    auto* asked = const_cast<LPOLESTR>(name);
     TYPEKIND kind = TKIND_MAX;
     if (FAILED(library->GetTypeInfoType(i, &kind)) || (kind != TKIND_DISPATCH && kind != TKIND_INTERFACE))
       continue;

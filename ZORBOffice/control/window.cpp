@@ -88,7 +88,7 @@ void Window::place(const RECT& position, const RECT& clip) noexcept {
   if (clipped_ || was_clipped) {
     OffsetRect(&seen, -position.left, -position.top);
     // The window owns its region, unless it has gone meanwhile.
-    const HRGN region = clipped_ ? CreateRectRgnIndirect(&seen) : nullptr;
+    HRGN region = clipped_ ? CreateRectRgnIndirect(&seen) : nullptr;
     if (!SetWindowRgn(handle_, region, TRUE) && region) DeleteObject(region);
   }
   SetWindowPos(handle_, nullptr, position.left, position.top, position.right - position.left,

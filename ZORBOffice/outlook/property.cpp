@@ -21,7 +21,8 @@ constexpr wchar_t date_picture[] = L"dd/MM/yyyy";
 constexpr wchar_t time_picture[] = L"HH:mm:ss";
 
 Bstr joined_values(const AutomationObject& item, const wchar_t* members) {
-  std::wstring joined, member;
+  std::wstring joined;
+  std::wstring member;
   for (std::wstring_view rest = members; !rest.empty();) {
     if (rest.data() != members) joined += L' ';
     member = rest.substr(0, rest.find(L' '));

@@ -9,7 +9,7 @@ HRESULT WordMembers::get_Start(VARIANT_BOOL* Template, BYTE* result) noexcept {
     const AutomationObject started = AutomationObject::create(L"Word.Application");
     application_ = started;
     if (flag(Template)) {
-      place_window(started, [&] { return started; });
+      place_window(started, [&] { return AutomationObject(started); });
     } else {
       started.get(L"Options").put(L"AutoFormatAsYouTypeApplyNumberedLists", false);
     }
