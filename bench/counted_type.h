@@ -1,6 +1,7 @@
 // An object's type information as it hands it out: every question is counted, and answered by the platform.
 #pragma once
 
+#include "bench/com_object.h"
 #include "bench/office.h"
 
 namespace bench {
@@ -18,31 +19,15 @@ auto question(const Ask& ask) {
   return answer;
 }
 
-// Forwards what COM asks of every object; owns the platform's object.
+// Owns the platform's object.
 template <class Interface>
-class Counted : public Interface {
+class Counted : public ComObject<Interface> {
  public:
   explicit Counted(Interface* own) : own_(own) {}
-  virtual ~Counted() { own_->Release(); }
-
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
-    const bool known = id == IID_IUnknown || id == __uuidof(Interface);
-    *object = known ? this : nullptr;
-    if (known) AddRef();
-    return known ? S_OK : E_NOINTERFACE;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return InterlockedIncrement(&references_); }
-  ULONG STDMETHODCALLTYPE Release() override {
-    const LONG left = InterlockedDecrement(&references_);
-    if (left == 0) delete this;
-    return left;
-  }
+  ~Counted() override { own_->Release(); }
 
  protected:
   Interface* const own_;
-
- private:
-  LONG references_ = 1;
 };
 
 // clang-format off

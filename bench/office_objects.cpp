@@ -13,27 +13,14 @@ using zorboffice::ComPtr;
 
 volatile LONG latest_number = 0;
 
-// Counts references; the number tells the objects of a process apart, also when one takes another's place.
+// The number tells the objects of a process apart, also when one takes another's place.
 template <class Interface>
-class Numbered : public Interface {
+class Numbered : public ComObject<Interface> {
  public:
   Numbered(const Application& application, const Type& type, const ItemKind* kind)
       : number(InterlockedIncrement(&latest_number)), application_(application), type_(type), kind_(kind) {}
-  virtual ~Numbered() {
+  ~Numbered() override {
     if (on_release) on_release(number);
-  }
-
-  HRESULT STDMETHODCALLTYPE QueryInterface(REFIID id, void** object) override {
-    const bool known = id == IID_IUnknown || id == __uuidof(Interface);
-    *object = known ? this : nullptr;
-    if (known) AddRef();
-    return known ? S_OK : E_NOINTERFACE;
-  }
-  ULONG STDMETHODCALLTYPE AddRef() override { return InterlockedIncrement(&references_); }
-  ULONG STDMETHODCALLTYPE Release() override {
-    const LONG left = InterlockedDecrement(&references_);
-    if (left == 0) delete this;
-    return left;
   }
 
   const LONG number;
@@ -42,9 +29,6 @@ class Numbered : public Interface {
   const Application& application_;
   const Type& type_;
   const ItemKind* const kind_;
-
- private:
-  LONG references_ = 1;
 };
 
 class Object final : public Numbered<IDispatch> {

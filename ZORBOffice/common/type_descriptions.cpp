@@ -10,42 +10,36 @@ namespace {
 constexpr int longest_way = 8;
 
 // The platform's descriptions go back to the type that gave them.
-class Attributes {
+template <class Description, void (STDMETHODCALLTYPE ITypeInfo::*give_back)(Description*)>
+class Described {
  public:
-  explicit Attributes(ITypeInfo* type) : type_(type) {
-    if (FAILED(until_taken([&] { return type->GetTypeAttr(&attributes_); }))) attributes_ = nullptr;
+  // get stores the description.
+  template <class Get>
+  Described(ITypeInfo* type, const Get& get) : type_(type) {
+    if (FAILED(until_taken([&] { return get(&description_); }))) description_ = nullptr;
   }
-  ~Attributes() {
-    if (attributes_) type_->ReleaseTypeAttr(attributes_);
+  ~Described() {
+    if (description_) (type_->*give_back)(description_);
   }
-  Attributes(const Attributes&) = delete;
-  Attributes& operator=(const Attributes&) = delete;
+  Described(const Described&) = delete;
+  Described& operator=(const Described&) = delete;
 
-  explicit operator bool() const { return attributes_ != nullptr; }
-  const TYPEATTR* operator->() const { return attributes_; }
+  explicit operator bool() const { return description_ != nullptr; }
+  const Description* operator->() const { return description_; }
 
  private:
   ITypeInfo* type_;
-  TYPEATTR* attributes_ = nullptr;
+  Description* description_ = nullptr;
 };
 
-class Function {
- public:
-  Function(ITypeInfo* type, UINT index) : type_(type) {
-    if (FAILED(type->GetFuncDesc(index, &function_))) function_ = nullptr;
-  }
-  ~Function() {
-    if (function_) type_->ReleaseFuncDesc(function_);
-  }
-  Function(const Function&) = delete;
-  Function& operator=(const Function&) = delete;
+struct Attributes : Described<TYPEATTR, &ITypeInfo::ReleaseTypeAttr> {
+  explicit Attributes(ITypeInfo* type)
+      : Described(type, [type](TYPEATTR** found) { return type->GetTypeAttr(found); }) {}
+};
 
-  explicit operator bool() const { return function_ != nullptr; }
-  const FUNCDESC* operator->() const { return function_; }
-
- private:
-  ITypeInfo* type_;
-  FUNCDESC* function_ = nullptr;
+struct Function : Described<FUNCDESC, &ITypeInfo::ReleaseFuncDesc> {
+  Function(ITypeInfo* type, UINT index)
+      : Described(type, [=](FUNCDESC** found) { return type->GetFuncDesc(index, found); }) {}
 };
 
 ComPtr<ITypeInfo> referred(ITypeInfo* type, HREFTYPE reference) {

@@ -12,8 +12,8 @@ namespace zorboffice {
 
 struct MemberDescription {
   SHORT parameters = 0;
-  ComPtr<ITypeInfo>
-      answer;  // the type of the object that it answers; null where that may be any object, or none
+  // The type of the object that it answers; null where that may be any object, or none.
+  ComPtr<ITypeInfo> answer;
 };
 
 // The identifier of a type; nothing where it has none.
@@ -33,7 +33,7 @@ bool first_member(ITypeInfo* type, DISPID& id);
 // The library that holds a type, loaded in this process from where it is registered. Null where it cannot be.
 ComPtr<ITypeLib> registered_library(ITypeInfo* type);
 
-// The type of that name, whatever its case; null where there is none.
+// The type of exactly that name; null where there is none.
 ComPtr<ITypeInfo> find_type(ITypeLib* library, const wchar_t* name);
 
 // The identifier that all types of the library that have a member of that name give it; DISPID_UNKNOWN where
