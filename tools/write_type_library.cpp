@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cstdio>
+#include <cstring>
 #include <memory>
 #include <stdexcept>
 #include <string>
@@ -47,6 +48,8 @@ ComPtr<ITypeInfo> dispatch_interface() {
   require(library->GetTypeInfoOfGuid(IID_IDispatch, information.receive()), "finding IDispatch");
   return information;
 }
+
+std::wstring wide(const char* sentence) { return {sentence, sentence + std::strlen(sentence)}; }
 
 ComPtr<ICreateTypeInfo> create(ICreateTypeLib2* library, const wchar_t* name, TYPEKIND kind, REFGUID id,
                                UINT flags) {
@@ -134,6 +137,8 @@ void add_member(ICreateTypeInfo* target, UINT slot, const Member& member) {
   require(target->AddFuncDesc(slot, &function), "AddFuncDesc");
   require(target->SetFuncAndParamNames(slot, names.data(), static_cast<UINT>(names.size())),
           "SetFuncAndParamNames");
+  if (!member.sentence) throw std::runtime_error("a member has no sentence");
+  require(target->SetFuncDocString(slot, wide(member.sentence).data()), "SetFuncDocString");
   for (UINT i = 0; i < count; ++i) VariantClear(&defaults[i].varDefaultValue);
 }
 
@@ -160,6 +165,7 @@ void add_class(ICreateTypeLib2* library, ITypeInfo* dispatch, const Class& row) 
   require(members->LayOut(), "LayOut");
 
   const auto coclass = create(library, published.name, TKIND_COCLASS, published.class_id, class_flags);
+  require(coclass->SetDocString(wide(row.sentence).data()), "SetDocString");
   add_implementation(coclass.get(), 0, members.get(), IMPLTYPEFLAG_FDEFAULT);
   add_implementation(coclass.get(), 1, events.get(), IMPLTYPEFLAG_FDEFAULT | IMPLTYPEFLAG_FSOURCE);
   require(coclass->LayOut(), "LayOut");

@@ -55,45 +55,48 @@ const Property* find(std::span<const Property> properties, BSTR key, auto is_ser
 
 }  // namespace
 
-constinit const Format as_text = {"text", [](const AutomationObject& item, const wchar_t* member) {
+constinit const Format as_text = {says("text"), [](const AutomationObject& item, const wchar_t* member) {
                                     return value_of(item, member).text();
                                   }};
-constinit const Format as_decimal = {"decimal", [](const AutomationObject& item, const wchar_t* member) {
+constinit const Format as_decimal = {says("decimal"),
+                                     [](const AutomationObject& item, const wchar_t* member) {
                                        return decimal(value_of(item, member).int32());
                                      }};
-constinit const Format as_flag = {"`True` or `False`",
+constinit const Format as_flag = {says("`True` or `False`"),
                                   [](const AutomationObject& item, const wchar_t* member) {
                                     return Bstr(value_of(item, member).flag() ? L"True" : L"False");
                                   }};
-constinit const Format as_date_time = {"date and time as the user's settings have them",
+constinit const Format as_date_time = {says("date and time as the user's settings have them"),
                                        [](const AutomationObject& item, const wchar_t* member) {
                                          return general_date(value_of(item, member).date());
                                        }};
-constinit const Format as_date = {"`dd/MM/yyyy`", read_date<date_picture>};
-constinit const Format as_time = {"`HH:mm:ss`", read_date<time_picture>};
-constinit const Format as_name = {"its `Name`", [](const AutomationObject& item, const wchar_t* member) {
+constinit const Format as_date = {says("`dd/MM/yyyy`"), read_date<date_picture>};
+constinit const Format as_time = {says("`HH:mm:ss`"), read_date<time_picture>};
+constinit const Format as_name = {says("its `Name`"),
+                                  [](const AutomationObject& item, const wchar_t* member) {
                                     return value_of(item, member).get(L"Name").text();
                                   }};
-constinit const Format as_count = {"its `Count`, decimal",
+constinit const Format as_count = {says("its `Count`, decimal"),
                                    [](const AutomationObject& item, const wchar_t* member) {
                                      return decimal(value_of(item, member).get(L"Count").int32());
                                    }};
-constinit const Format as_joined_values = {"the texts, joined by a blank, empty ones too", joined_values};
-constinit const Format as_names = {"each `Name`, joined by `;`", joined_elements<name>};
-constinit const Format as_display_names = {"each `DisplayName`, joined by `;`",
+constinit const Format as_joined_values = {says("the texts, joined by a blank, empty ones too"),
+                                           joined_values};
+constinit const Format as_names = {says("each `Name`, joined by `;`"), joined_elements<name>};
+constinit const Format as_display_names = {says("each `DisplayName`, joined by `;`"),
                                            joined_elements<display_name>};
 
-constinit const Conversion from_text = {"text",
+constinit const Conversion from_text = {says("text"),
                                         [](const AutomationObject& item, const wchar_t* member, BSTR value) {
                                           item.typed().put(member, Argument::text(value));
                                         }};
-constinit const Conversion from_flag = {"`True`, `False` or a number",
+constinit const Conversion from_flag = {says("`True`, `False` or a number"),
                                         [](const AutomationObject& item, const wchar_t* member, BSTR value) {
                                           const bool converted = flag_of(value);
                                           item.typed().put(member, converted);
                                         }};
-constinit const Conversion from_int16 = {"number of 16 bits, rounded", write_int16};
-constinit const Conversion from_date = {"date, time or both as the user's settings have them",
+constinit const Conversion from_int16 = {says("number of 16 bits, rounded"), write_int16};
+constinit const Conversion from_date = {says("date, time or both as the user's settings have them"),
                                         [](const AutomationObject& item, const wchar_t* member, BSTR value) {
                                           const DATE converted = date_of(value);
                                           item.typed().put(member, Argument::date(converted));

@@ -8,10 +8,11 @@
 #include <string_view>
 
 #include "ZORBOffice/common/automation_object.h"
+#include "ZORBOffice/surface/sentence.h"
 
 namespace zorboffice {
 
-// The description is for the reference page. Throws Failure.
+// The description is for the reference. Throws Failure.
 struct Format {
   const char* description;
   Bstr (*read)(const AutomationObject& item, const wchar_t* member);
@@ -25,13 +26,14 @@ struct Conversion {
 
 struct Property {
   std::wstring_view key;
-  const wchar_t* member;                   // of Outlook's object model
+  const wchar_t* member;  // of Outlook's object model
+  const char* sentence;
   const Format* format = nullptr;          // null: this row is not for reading
   const Conversion* conversion = nullptr;  // null: this row is not for writing
 };
 
 // A text that is read and written as it is, under Outlook's own name.
-constexpr Property text_property(const wchar_t* name);
+constexpr Property text_property(const wchar_t* name, const char* sentence);
 
 extern const Format as_text, as_decimal, as_date_time, as_date, as_time;
 extern const Format as_flag;                     // null counts as false
@@ -55,6 +57,8 @@ Bstr read_property(std::span<const Property> properties, const AutomationObject&
 void write_property(std::span<const Property> properties, const AutomationObject& item, BSTR key, BSTR value,
                     const wchar_t* unknown_key);
 
-constexpr Property text_property(const wchar_t* name) { return {name, name, &as_text, &from_text}; }
+constexpr Property text_property(const wchar_t* name, const char* sentence) {
+  return {name, name, sentence, &as_text, &from_text};
+}
 
 }  // namespace zorboffice

@@ -22,7 +22,7 @@ constexpr Status statuses[] = {
 
 // A number that has no text stands for itself.
 constinit const Format as_status = {
-    "`Completed`, `Deferred`, `In Progress`, `Not Started` or `Waiting on someone else`",
+    says("`Completed`, `Deferred`, `In Progress`, `Not Started` or `Waiting on someone else`"),
     [](const AutomationObject& item, const wchar_t* member) {
       const LONG number = item.typed().get(member).int32();
       const auto* row = std::ranges::find(statuses, number, &Status::number);
@@ -30,7 +30,7 @@ constinit const Format as_status = {
     }};
 
 constinit const Conversion from_status = {
-    "one of the five status texts; another text is said in a box and not written",
+    says("one of the five status texts; another text is said in a box and not written"),
     [](const AutomationObject& item, const wchar_t* member, BSTR value) {
       const auto* row = std::ranges::find(statuses, view(value), &Status::text);
       if (row == std::end(statuses)) return show_message(concatenated({L"unknown Status ", view(value)}));
@@ -38,22 +38,27 @@ constinit const Conversion from_status = {
     }};
 
 constexpr Property rows[] = {
-    text_property(L"Body"),
-    {L"CreationDate", L"CreationTime", &as_date},
-    {L"CreationTime", L"CreationTime", &as_time},
-    {L"DueDate", L"DueDate", &as_date, &from_date},
-    {L"EntryID", L"EntryID", &as_text},
-    {L"Folder", L"Parent", &as_name},
-    {L"ModifiedDate", L"LastModificationTime", &as_date},
-    {L"ModifiedTime", L"LastModificationTime", &as_time},
-    {L"PercentComplete", L"PercentComplete", &as_decimal, &from_int16},
-    {L"Priority", L"Importance", &as_decimal, &from_int16},
-    {L"Reminder", L"ReminderSet", &as_flag},
-    {L"ReminderDate", L"ReminderTime", &as_date, &from_date},
-    {L"ReminderTime", L"ReminderTime", &as_time},
-    text_property(L"Subject"),
-    {L"StartDate", L"StartDate", &as_date, &from_date},
-    {L"Status", L"Status", &as_status, &from_status},
+    text_property(L"Body", says("The task's text.")),
+    {L"CreationDate", L"CreationTime", says("The day on which the item was made."), &as_date},
+    {L"CreationTime", L"CreationTime", says("The time of day at which the item was made."), &as_time},
+    {L"DueDate", L"DueDate", says("The day on which the task is due."), &as_date, &from_date},
+    {L"EntryID", L"EntryID", says("The item's identifier, for GetItem."), &as_text},
+    {L"Folder", L"Parent", says("The name of the folder that the item is in."), &as_name},
+    {L"ModifiedDate", L"LastModificationTime", says("The day on which the item was last changed."), &as_date},
+    {L"ModifiedTime", L"LastModificationTime", says("The time of day at which the item was last changed."),
+     &as_time},
+    {L"PercentComplete", L"PercentComplete", says("How much of it is done, 0 to 100."), &as_decimal,
+     &from_int16},
+    {L"Priority", L"Importance", says("How important it is: low (0), normal (1) or high (2)."), &as_decimal,
+     &from_int16},
+    {L"Reminder", L"ReminderSet", says("Whether there is a reminder."), &as_flag},
+    {L"ReminderDate", L"ReminderTime",
+     says("The day of the reminder; writing sets its time too, but switches no reminder on."), &as_date,
+     &from_date},
+    {L"ReminderTime", L"ReminderTime", says("The time of day of the reminder."), &as_time},
+    text_property(L"Subject", says("The subject.")),
+    {L"StartDate", L"StartDate", says("The day on which the task begins."), &as_date, &from_date},
+    {L"Status", L"Status", says("How far the task is, in English words."), &as_status, &from_status},
 };
 
 }  // namespace

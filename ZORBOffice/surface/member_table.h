@@ -10,6 +10,7 @@
 #include <span>
 
 #include "ZORBOffice/surface/native_call.h"
+#include "ZORBOffice/surface/sentence.h"
 
 namespace zorboffice {
 
@@ -23,21 +24,26 @@ enum class Presence : BYTE {
 
 struct Parameter {
   const wchar_t* name;
+  const char* sentence;
   VARTYPE type;
   bool by_reference;
   Presence presence = Presence::required;
   SHORT default_value = 0;  // a string's default is always ""
 
-  constexpr Parameter optional() const { return {name, type, by_reference, Presence::optional}; }
+  constexpr Parameter optional() const { return {name, sentence, type, by_reference, Presence::optional}; }
   constexpr Parameter defaults_to(SHORT value) const {
-    return {name, type, by_reference, Presence::optional_with_value, value};
+    return {name, sentence, type, by_reference, Presence::optional_with_value, value};
   }
 };
 
 // A parameter in and out.
-constexpr Parameter by_ref(const wchar_t* name, VARTYPE type) { return {name, type, true}; }
+constexpr Parameter by_ref(const wchar_t* name, VARTYPE type, const char* sentence = nullptr) {
+  return {name, sentence, type, true};
+}
 
-constexpr Parameter by_value(const wchar_t* name, VARTYPE type) { return {name, type, false}; }
+constexpr Parameter by_value(const wchar_t* name, VARTYPE type, const char* sentence = nullptr) {
+  return {name, sentence, type, false};
+}
 
 struct Member {
   const wchar_t* name;
@@ -46,6 +52,7 @@ struct Member {
   VARTYPE result;
   NativeCall call;
   std::initializer_list<Parameter> parameters;
+  const char* sentence = nullptr;
 };
 
 // The members of one interface in slot order.

@@ -11,7 +11,7 @@ namespace zorboffice {
 // failure; failures are kept for GetLastErrorNumber and GetLastErrorDescription. A null result pointer gives
 // E_POINTER.
 //
-// Property keys are compared exactly; docs/outlook-properties.md lists them. An unknown key is said in a
+// Property keys are compared exactly; docs/reference/properties.md lists them. An unknown key is said in a
 // message box (GetExceptionProperty says nothing), and a setter that returns a flag then returns true all the
 // same. Writing a property does not save the item. A date is read as day/month/year but written in the user's
 // own order: never write back what was read; year-month-day is understood everywhere. A time alone is a time
@@ -99,7 +99,7 @@ struct OutlookInterface : IDispatch {
   virtual HRESULT STDMETHODCALLTYPE GetRecurrenceProperty(BSTR RecurProp, BSTR* result) noexcept = 0;
 
   // Converts PropertyValue and writes it to the recurrence pattern's property RecurProp. Always returns "".
-  // Outlook keeps a pattern's length: writing PatternStartDate changes PatternEndDate too.
+  // PatternStartDate writes the end of the series, as PatternEndDate does.
   virtual HRESULT STDMETHODCALLTYPE SetRecurrenceProperty(BSTR RecurProp, BSTR PropertyValue,
                                                           BSTR* result) noexcept = 0;
 

@@ -105,9 +105,9 @@ struct Row {
 
 // The keys that the reference page has for the accessor; members_test.cpp has the list of exceptions.
 std::vector<Row> rows_of(const Accessor& accessor) {
-  static const std::regex line_form(R"(\| `(.*)` \| (.*) \| (.*) \| (.*) \|)"),
+  static const std::regex line_form(R"(\| `(.*)` \| .* \| (`.*`) \| (.*) \| (.*) \|)"),
       inner_form("(its|each) `(\\w+)`.*");
-  std::ifstream page(project_file(L"docs\\outlook-properties.md").c_str());
+  std::ifstream page(project_file(L"docs\\reference\\properties.md").c_str());
   std::vector<Row> rows;
   std::set<const Samples*> seen;
   bool is_own = false;
