@@ -131,6 +131,9 @@ TEST(TypeLibrary, lists_every_member_in_its_slot) {
       EXPECT_EQ(member->memid, members[slot].id) << members[slot].signature;
       EXPECT_EQ(member->oVft, (7 + slot) * sizeof(void*)) << members[slot].signature;
       EXPECT_EQ(member->elemdescFunc.tdesc.vt, VT_HRESULT) << members[slot].signature;
+      BSTR help = nullptr;
+      EXPECT_EQ(vtable->GetDocumentation(member->memid, nullptr, &help, nullptr, nullptr), S_OK);
+      EXPECT_TRUE(take(help).ends_with(L'.')) << members[slot].signature;
       // A property browser that read them would call them.
       const bool is_method = member->invkind == INVOKE_FUNC;
       EXPECT_EQ(member->wFuncFlags, is_method ? 0 : FUNCFLAG_FNONBROWSABLE) << members[slot].signature;
