@@ -49,6 +49,7 @@ word.StopWord True
     "ZORBOutlook": "",
     "OpenWriter": "",
 }
+CAN_BEGIN = 'If Err.Number <> 0 Then Need False, "it cannot begin:"\n'
 REPORT = 'If Err.Number <> 0 Then WScript.Echo "raised " & Err.Number & ": " & Err.Description\nErr.Clear\n'
 NEED = """Sub Need(done, otherwise)
   If Err.Number = 0 And done Then Exit Sub
@@ -87,7 +88,7 @@ class Example:
         shutil.rmtree(folder, ignore_errors=True)
         shutil.copytree(TEXTS / "samples", folder)
         script = folder / "example.vbs"
-        parts = [START, BEFORE[self.control], "Example\n", REPORT, AFTER[self.control]]
+        parts = [START, BEFORE[self.control], CAN_BEGIN, "Example\n", REPORT, AFTER[self.control]]
         end = 'WScript.Echo "example.vbs: done"\n'
         script.write_text("".join([*parts, end, "Sub Example\n", self.code, "End Sub\n", NEED]), encoding="cp1252")
         process = subprocess.Popen([ROOT / "script/in-cscript", script, folder], stdout=subprocess.PIPE,
