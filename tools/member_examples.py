@@ -65,14 +65,8 @@ class Example:
     def __init__(self, control, member, section):
         self.control = control
         self.name = f"{control}.{member}"
-        self.complaints = []
-        if section is None:
-            self.complaints.append("has no section")
-            section = ""
-        for bullet in BULLETS:
-            count = section.count(f"\n- **{bullet}:** ")
-            if count != 1:
-                self.complaints.append(f"has {count} bullets \"{bullet}\"")
+        counts = {bullet: section.count(f"\n- **{bullet}:** ") for bullet in BULLETS}
+        self.complaints = [f'has {count} bullets "{bullet}"' for bullet, count in counts.items() if count != 1]
         blocks = re.findall(r"^```(\w*)\n(.*?)^```$", section, re.MULTILINE | re.DOTALL)
         if [kind for kind, _ in blocks] not in (["vb"], ["vb", "text"]):
             self.complaints.append("has not one vb block, with at most one text block")
@@ -112,9 +106,12 @@ def examples(control):
     file = TEXTS / f"{control}.md"
     parts = re.split(r"^## (.*)\n", file.read_text() if file.exists() else "", flags=re.MULTILINE)
     names, sections = parts[1::2], dict(zip(parts[1::2], parts[2::2]))
-    result = [Example(control, member, sections.get(member)) for member in members]
-    if names != members and not any(example.complaints for example in result):
-        result[0].complaints.append("and the others are not the members of the table, in its order")
+    result = [Example(control, member, sections.get(member, "")) for member in members]
+    for example, member in zip(result, members):
+        if member not in names:
+            example.complaints = ["has no section"]
+    if names != [member for member in members if member in names]:
+        result[0].complaints.append(f"or another section of {file.name} does not stand where the table of members has it")
     return result
 
 
