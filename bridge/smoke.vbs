@@ -112,6 +112,10 @@ Check "no hit", selection.Find.Execute("A1*B1", False, False, True), False
 
 selection.HomeKey 6
 Check "tables", document.Tables.Count & document.Tables(1).Cell(2, 1).Range.Text, "1NAME A2" & vbCr & Chr(7)
+document.Tables(1).Cell(1, 1).Range.Select
+selection.SelectRow
+selection.MoveRight
+Check "behind a row", selection.Start, document.Tables(1).Cell(2, 1).Range.Start
 
 ' Replace all, in the table too, by a text with marks.
 Check "all", selection.Find.Execute("name", False, False, False, False, False, True, 1, False, "<^&^t>", 2), True

@@ -115,7 +115,6 @@ class Selection(WordObject):
         return self._go_to_edge(Unit, Extend, at_end=True)
 
     def Move(self, Unit: int = CHARACTER, Count: int = 1):
-        self.forget()
         self._collapse(at_end=Count > 0)
         return self._movement.advance(Unit, Count)
 
@@ -217,7 +216,12 @@ class Selection(WordObject):
             raise WordError(COMMAND_FAILED)
 
     def _collapse(self, at_end):
-        self._cursor.gotoRange(self._cursor.getEnd() if at_end else self._cursor.getStart(), False)
+        """Go to an edge of the selection, which may lie behind marks that the office's cursor cannot span."""
+        edge = self._cursor.getEnd() if at_end else self._cursor.getStart()
+        if self._exact:
+            edge = self._document.story().place(self._exact[at_end])
+        self.forget()
+        self._cursor.gotoRange(edge, False)
 
     def _is_end_of_cell(self):
         if not cell_of(self._cursor):
@@ -227,15 +231,14 @@ class Selection(WordObject):
 
     def _move(self, unit, count, extend):
         """Move by units, backward for a negative count; the result is the signed number of units."""
-        exact = self._exact
-        self.forget()
         if count == 0:
             return 0
         forward = count > 0
         if extend:
+            self.forget()
             return self._extend(unit, count)
         # Leaving a selection at its edge is the first of the characters to move.
-        left = not self._cursor.isCollapsed() or exact is not None
+        left = not self._cursor.isCollapsed() or self._exact is not None
         self._collapse(at_end=forward)
         if not left or unit != CHARACTER:
             return self._movement.advance(unit, count)
