@@ -1,0 +1,1577 @@
+// ZORBOffice for C++11 and later: the controls' interfaces, and a class a control that is called with plain C++ values.
+// Needs Windows' headers only. Link ole32 and oleaut32. Written by the build from the tables of the library; not to be edited.
+//
+//   ZORBOffice::Apartment apartment;
+//   ZORBOffice::UnregisteredLibrary library(L"C:\\Tools\\ZORBOffice.manifest");  // not needed where it is registered
+//   ZORBOffice::ZORBWord word;
+//   if (word.Start() && word.OpenDoc(L"C:\\letters\\offer.docx")) text = word.ReadText(0, 0);
+//
+// What fails inside a member is told by its result, often after a message box; what reaches the host, and a control that cannot
+// be created, is thrown as ZORBOffice::Error. A control belongs to the thread that creates it.
+#pragma once
+
+#include <windows.h>
+#include <oaidl.h>
+#include <objbase.h>
+
+#include <new>
+#include <stdexcept>
+#include <string>
+
+#ifdef _MSC_VER
+#pragma comment(lib, "ole32")
+#pragma comment(lib, "oleaut32")
+#define ZORBOFFICE_UUID(text) __declspec(uuid(text))
+#else
+#define ZORBOFFICE_UUID(text)
+#endif
+
+namespace ZORBOffice {
+
+// The type library ZORBOffice50, version 1.0.
+constexpr GUID LIBID_ZORBOffice50 = {0x8698dd46, 0xfa38, 0x4fd0, {0x83, 0x36, 0xfa, 0x99, 0x7f, 0xb1, 0x0d, 0x92}};
+constexpr CLSID CLSID_ZORBWord = {0x495cdeb3, 0x7f1e, 0x4663, {0x9d, 0xb2, 0xe3, 0x34, 0x37, 0x41, 0x2c, 0xe0}};
+constexpr IID IID_IZORBWord = {0x79397b6a, 0x4416, 0x4196, {0x88, 0x24, 0x6e, 0x59, 0x99, 0x16, 0xdc, 0x95}};
+constexpr CLSID CLSID_ZORBOutlook = {0xa04baf5a, 0xd329, 0x4c3a, {0xa0, 0x12, 0xcf, 0xfa, 0x91, 0x9d, 0x55, 0x9f}};
+constexpr IID IID_IZORBOutlook = {0xa7e31fe0, 0xe2a1, 0x4b1e, {0xb3, 0x86, 0x22, 0x56, 0x40, 0x26, 0x55, 0x1d}};
+constexpr CLSID CLSID_OpenWriter = {0xb0584ff2, 0xc51e, 0x4844, {0x94, 0xe6, 0xaa, 0xc1, 0x37, 0xf1, 0x80, 0x02}};
+constexpr IID IID_IOpenWriter = {0x8a83a708, 0x86a0, 0x414a, {0xa5, 0x88, 0x7d, 0xc3, 0x74, 0x93, 0x87, 0x29}};
+
+/// What a search does when it reaches the end of the text.
+enum WdFindWrap : unsigned char {
+  wdFindStop = 0,  ///< It ends.
+  wdFindContinue = 1,  ///< It goes on from the other end.
+  wdFindAsk = 2,  ///< It asks the user.
+};
+
+/// How much is replaced.
+enum WdReplace : unsigned char {
+  wdReplaceNone = 0,  ///< Nothing.
+  wdReplaceOne = 1,  ///< The first occurrence.
+  wdReplaceAll = 2,  ///< Every occurrence.
+};
+
+/// Which of a section's headers or footers is meant.
+enum WdHeaderFooterIndex : unsigned char {
+  wdHeaderFooterPrimary = 1,  ///< The one of all pages that have none of their own.
+  wdHeaderFooterFirstPage = 2,  ///< The first page's.
+  wdHeaderFooterEvenPages = 3,  ///< The even pages'.
+};
+
+/// By what the insertion point moves.
+enum WdUnits : short {
+  wdCharacter = 1,  ///< Characters.
+  wdWord = 2,  ///< Words.
+  wdSentence = 3,  ///< Sentences.
+  wdParagraph = 4,  ///< Paragraphs.
+  wdLine = 5,  ///< Lines.
+  wdStory = 6,  ///< Stories: the main text, a header and so on.
+  wdScreen = 7,  ///< Screens.
+  wdSection = 8,  ///< Sections.
+  wdColumn = 9,  ///< Columns.
+  wdRow = 10,  ///< Rows.
+  wdWindow = 11,  ///< Windows.
+  wdCell = 12,  ///< Cells.
+  wdCharacterFormatting = 13,  ///< Runs of one character formatting.
+  wdParagraphFormatting = 14,  ///< Runs of one paragraph formatting.
+  wdTable = 15,  ///< Tables.
+  wdItem = 16,  ///< The selected item.
+};
+
+/// Whether a movement selects.
+enum WdMovementType : long {
+  wdMove = 0,  ///< The selection becomes an insertion point and moves.
+  wdExtend = 1,  ///< The selection is extended.
+};
+
+/// What becomes of changes when a document is closed.
+enum WdSaveOptions : short {
+  wdDoNotSaveChanges = 0,  ///< They are lost.
+  wdSaveChanges = -1,  ///< They are saved.
+  wdPromptToSaveChanges = -2,  ///< The user is asked.
+};
+
+/// One of the word processor's default folders.
+enum WdDefaultFilePath : short {
+  wdDocumentsPath = 0,  ///< Documents.
+  wdPicturesPath = 1,  ///< Pictures.
+  wdUserTemplatesPath = 2,  ///< The user's templates.
+  wdWorkgroupTemplatesPath = 3,  ///< The workgroup's templates.
+  wdUserOptionsPath = 4,  ///< The user's options.
+  wdAutoRecoverPath = 5,  ///< Files for recovery.
+  wdToolsPath = 6,  ///< Tools.
+  wdTutorialPath = 7,  ///< The tutorial.
+  wdStartupPath = 8,  ///< What is loaded at the start.
+  wdProgramPath = 9,  ///< The program.
+  wdGraphicsFiltersPath = 10,  ///< Filters for pictures.
+  wdTextConvertersPath = 11,  ///< Converters of text.
+  wdProofingToolsPath = 12,  ///< Proofing tools.
+  wdTempFilePath = 13,  ///< Temporary files.
+  wdCurrentFolderPath = 14,  ///< The current folder.
+  wdStyleGalleryPath = 15,  ///< The style gallery.
+  wdBorderArtPath = 19,  ///< Art for borders.
+};
+
+/// Values of `Importance`, and of a task's `Priority`.
+enum OlImportance : long {
+  olImportanceLow = 0,  ///< Low.
+  olImportanceNormal = 1,  ///< Normal.
+  olImportanceHigh = 2,  ///< High.
+};
+
+/// Values of `Sensitivity`. Only olPrivate can be written; any other becomes olNormal.
+enum OlSensitivity : long {
+  olNormal = 0,  ///< Normal.
+  olPersonal = 1,  ///< Personal.
+  olPrivate = 2,  ///< Private.
+  olConfidential = 3,  ///< Confidential.
+};
+
+/// Values of `RecurrenceType`.
+enum OlRecurrenceType : long {
+  olRecursDaily = 0,  ///< Every so many days.
+  olRecursWeekly = 1,  ///< On days of the week.
+  olRecursMonthly = 2,  ///< On a day of the month.
+  olRecursMonthNth = 3,  ///< On, say, the second Tuesday of the month: see `Instance`.
+  olRecursYearly = 5,  ///< On a day of the year.
+  olRecursYearNth = 6,  ///< On, say, the second Tuesday of May: see `Instance`.
+};
+
+/// Values of `DayOfWeekMask`: one of them, or the sum of several.
+enum OlDaysOfWeek : long {
+  olSunday = 1,  ///< Sunday.
+  olMonday = 2,  ///< Monday.
+  olTuesday = 4,  ///< Tuesday.
+  olWednesday = 8,  ///< Wednesday.
+  olThursday = 16,  ///< Thursday.
+  olFriday = 32,  ///< Friday.
+  olSaturday = 64,  ///< Saturday.
+};
+
+/// Values of `MeetingStatus`.
+enum OlMeetingStatus : long {
+  olNonMeeting = 0,  ///< An appointment without attendees.
+  olMeeting = 1,  ///< A meeting.
+  olMeetingReceived = 3,  ///< A meeting to which one was invited.
+  olMeetingCanceled = 5,  ///< A cancelled meeting.
+  olMeetingReceivedAndCanceled = 7,  ///< A cancelled meeting that is still in the calendar.
+};
+
+/// Values of `RecurrenceState`.
+enum OlRecurrenceState : long {
+  olApptNotRecurring = 0,  ///< A single appointment.
+  olApptMaster = 1,  ///< A series.
+  olApptOccurrence = 2,  ///< One occurrence of a series.
+  olApptException = 3,  ///< A changed occurrence of a series.
+};
+
+/// Values of `SelectedMailingAddress`.
+enum OlMailingAddress : long {
+  olNone = 0,  ///< None.
+  olHome = 1,  ///< The home address.
+  olBusiness = 2,  ///< The business address.
+  olOther = 3,  ///< The other address.
+};
+
+/// Values of `DownloadState`.
+enum OlDownloadState : long {
+  olHeaderOnly = 0,  ///< Only the header is there.
+  olFullItem = 1,  ///< All of the item is there.
+};
+
+/// Values of `MarkForDownload`.
+enum OlRemoteStatus : long {
+  olRemoteStatusNone = 0,  ///< None was set.
+  olUnMarked = 1,  ///< Not marked.
+  olMarkedForDownload = 2,  ///< Marked to be downloaded.
+  olMarkedForCopy = 3,  ///< Marked to be copied.
+  olMarkedForDelete = 4,  ///< Marked to be deleted.
+};
+
+/// Kinds of items. InitItems knows six more words: `Sent Items`, and `Deleted ` in front of a kind.
+namespace EntryType {
+constexpr const wchar_t* Appointment = L"Appointment";  ///< The calendar's.
+constexpr const wchar_t* Contact = L"Contact";  ///< The contacts'.
+constexpr const wchar_t* Note = L"Note";  ///< The notes'.
+constexpr const wchar_t* Task = L"Task";  ///< The tasks'.
+constexpr const wchar_t* Email = L"Email";  ///< The inbox's.
+constexpr const wchar_t* SentItems = L"Sent Items";  ///< Sent mails; for InitItems only.
+constexpr const wchar_t* DeletedAppointment = L"Deleted Appointment";  ///< For InitItems only.
+constexpr const wchar_t* DeletedContact = L"Deleted Contact";  ///< For InitItems only.
+constexpr const wchar_t* DeletedNote = L"Deleted Note";  ///< For InitItems only.
+constexpr const wchar_t* DeletedTask = L"Deleted Task";  ///< For InitItems only.
+constexpr const wchar_t* DeletedEmail = L"Deleted Email";  ///< For InitItems only.
+}  // namespace EntryType
+
+/// Values of a task's `Status`.
+namespace TaskStatus {
+constexpr const wchar_t* NotStarted = L"Not Started";  ///< olTaskNotStarted (0).
+constexpr const wchar_t* InProgress = L"In Progress";  ///< olTaskInProgress (1).
+constexpr const wchar_t* Completed = L"Completed";  ///< olTaskComplete (2).
+constexpr const wchar_t* Waiting = L"Waiting on someone else";  ///< olTaskWaiting (3).
+constexpr const wchar_t* Deferred = L"Deferred";  ///< olTaskDeferred (4).
+}  // namespace TaskStatus
+
+/// Keys of GetAppointmentProperty and SetAppointmentProperty, for the current appointment.
+namespace AppointmentKey {
+constexpr const wchar_t* AllDayEvent = L"AllDayEvent";
+constexpr const wchar_t* Billing = L"Billing";
+constexpr const wchar_t* Body = L"Body";
+constexpr const wchar_t* Companies = L"Companies";
+constexpr const wchar_t* CreatedDate = L"CreatedDate";
+constexpr const wchar_t* CreatedTime = L"CreatedTime";
+constexpr const wchar_t* Duration = L"Duration";
+constexpr const wchar_t* End = L"End";
+constexpr const wchar_t* EndDate = L"EndDate";
+constexpr const wchar_t* EndTime = L"EndTime";
+constexpr const wchar_t* EntryID = L"EntryID";
+constexpr const wchar_t* Folder = L"Folder";
+constexpr const wchar_t* IsRecurring = L"IsRecurring";
+constexpr const wchar_t* Importance = L"Importance";
+constexpr const wchar_t* ModifiedDate = L"ModifiedDate";
+constexpr const wchar_t* ModifiedTime = L"ModifiedTime";
+constexpr const wchar_t* Location = L"Location";
+constexpr const wchar_t* MeetingStatus = L"MeetingStatus";
+constexpr const wchar_t* MessageClass = L"MessageClass";
+constexpr const wchar_t* Mileage = L"Mileage";
+constexpr const wchar_t* RecurrenceState = L"RecurrenceState";
+constexpr const wchar_t* ReminderMinutesBeforeStart = L"ReminderMinutesBeforeStart";
+constexpr const wchar_t* ReminderSet = L"ReminderSet";
+constexpr const wchar_t* Sensitivity = L"Sensitivity";
+constexpr const wchar_t* Start = L"Start";
+constexpr const wchar_t* StartDate = L"StartDate";
+constexpr const wchar_t* StartTime = L"StartTime";
+constexpr const wchar_t* Subject = L"Subject";
+}  // namespace AppointmentKey
+
+/// Keys of GetRecurrenceProperty and SetRecurrenceProperty, for the recurrence pattern.
+namespace RecurrenceKey {
+constexpr const wchar_t* Class = L"Class";
+constexpr const wchar_t* DayOfMonth = L"DayOfMonth";
+constexpr const wchar_t* DayOfWeekMask = L"DayOfWeekMask";
+constexpr const wchar_t* Duration = L"Duration";
+constexpr const wchar_t* EndTime = L"EndTime";
+constexpr const wchar_t* Interval = L"Interval";
+constexpr const wchar_t* Instance = L"Instance";
+constexpr const wchar_t* MonthOfYear = L"MonthOfYear";
+constexpr const wchar_t* NoEndDate = L"NoEndDate";
+constexpr const wchar_t* Occurrences = L"Occurrences";
+constexpr const wchar_t* PatternEndDate = L"PatternEndDate";
+constexpr const wchar_t* PatternStartDate = L"PatternStartDate";
+constexpr const wchar_t* RecurrenceType = L"RecurrenceType";
+constexpr const wchar_t* StartTime = L"StartTime";
+constexpr const wchar_t* ExceptionCount = L"Exception Count";
+constexpr const wchar_t* ExceptionList = L"Exception List";
+}  // namespace RecurrenceKey
+
+/// Keys of GetExceptionProperty, for one exception of the recurrence pattern.
+namespace ExceptionKey {
+constexpr const wchar_t* OriginalDate = L"OriginalDate";
+constexpr const wchar_t* Deleted = L"Deleted";
+}  // namespace ExceptionKey
+
+/// Keys of GetContactProperty and SetContactProperty, for the current contact.
+namespace ContactKey {
+constexpr const wchar_t* AssistantTelephoneNumber = L"AssistantTelephoneNumber";
+constexpr const wchar_t* Body = L"Body";
+constexpr const wchar_t* Business2TelephoneNumber = L"Business2TelephoneNumber";
+constexpr const wchar_t* BusinessAddress = L"BusinessAddress";
+constexpr const wchar_t* BusinessAddressCity = L"BusinessAddressCity";
+constexpr const wchar_t* BusinessAddressCountry = L"BusinessAddressCountry";
+constexpr const wchar_t* BusinessAddressPostalCode = L"BusinessAddressPostalCode";
+constexpr const wchar_t* BusinessAddressState = L"BusinessAddressState";
+constexpr const wchar_t* BusinessAddressStreet = L"BusinessAddressStreet";
+constexpr const wchar_t* BusinessFaxNumber = L"BusinessFaxNumber";
+constexpr const wchar_t* BusinesshomePage = L"BusinesshomePage";
+constexpr const wchar_t* BusinessTelephoneNumber = L"BusinessTelephoneNumber";
+constexpr const wchar_t* CarTelephoneNumber = L"CarTelephoneNumber";
+constexpr const wchar_t* CompanyMainTelephoneNumber = L"CompanyMainTelephoneNumber";
+constexpr const wchar_t* CompanyName = L"CompanyName";
+constexpr const wchar_t* Email1Address = L"Email1Address";
+constexpr const wchar_t* Email2Address = L"Email2Address";
+constexpr const wchar_t* Email3Address = L"Email3Address";
+constexpr const wchar_t* FirstName = L"FirstName";
+constexpr const wchar_t* FullName = L"FullName";
+constexpr const wchar_t* GovernmentIDNumber = L"GovernmentIDNumber";
+constexpr const wchar_t* Home2TelephoneNumber = L"Home2TelephoneNumber";
+constexpr const wchar_t* HomeAddress = L"HomeAddress";
+constexpr const wchar_t* HomeAddressCity = L"HomeAddressCity";
+constexpr const wchar_t* HomeAddressCountry = L"HomeAddressCountry";
+constexpr const wchar_t* HomeAddressPostalCode = L"HomeAddressPostalCode";
+constexpr const wchar_t* HomeAddressState = L"HomeAddressState";
+constexpr const wchar_t* HomeAddressStreet = L"HomeAddressStreet";
+constexpr const wchar_t* HomeFaxNumber = L"HomeFaxNumber";
+constexpr const wchar_t* HomeTelephoneNumber = L"HomeTelephoneNumber";
+constexpr const wchar_t* JobTitle = L"JobTitle";
+constexpr const wchar_t* MailingAddress = L"MailingAddress";
+constexpr const wchar_t* MailingAddressCity = L"MailingAddressCity";
+constexpr const wchar_t* MailingAddressCountry = L"MailingAddressCountry";
+constexpr const wchar_t* MailingAddressPostalCode = L"MailingAddressPostalCode";
+constexpr const wchar_t* MailingAddressState = L"MailingAddressState";
+constexpr const wchar_t* MailingAddressStreet = L"MailingAddressStreet";
+constexpr const wchar_t* MobileTelephoneNumber = L"MobileTelephoneNumber";
+constexpr const wchar_t* Nickname = L"Nickname";
+constexpr const wchar_t* OtherAddress = L"OtherAddress";
+constexpr const wchar_t* OtherAddressCity = L"OtherAddressCity";
+constexpr const wchar_t* OtherAddressCountry = L"OtherAddressCountry";
+constexpr const wchar_t* OtherAddressPostalCode = L"OtherAddressPostalCode";
+constexpr const wchar_t* OtherAddressState = L"OtherAddressState";
+constexpr const wchar_t* OtherAddressStreet = L"OtherAddressStreet";
+constexpr const wchar_t* OtherFaxNumber = L"OtherFaxNumber";
+constexpr const wchar_t* OtherTelephoneNumber = L"OtherTelephoneNumber";
+constexpr const wchar_t* PrimaryTelephoneNumber = L"PrimaryTelephoneNumber";
+constexpr const wchar_t* RadioTelephoneNumber = L"RadioTelephoneNumber";
+constexpr const wchar_t* Title = L"Title";
+constexpr const wchar_t* WebPage = L"WebPage";
+constexpr const wchar_t* EntryID = L"EntryID";
+constexpr const wchar_t* Folder = L"Folder";
+constexpr const wchar_t* ModifiedDate = L"ModifiedDate";
+constexpr const wchar_t* ModifiedTime = L"ModifiedTime";
+constexpr const wchar_t* SelectedMailingAddress = L"SelectedMailingAddress";
+constexpr const wchar_t* AllTelephoneNumbers = L"AllTelephoneNumbers";
+constexpr const wchar_t* AllFaxNumbers = L"AllFaxNumbers";
+constexpr const wchar_t* AllEmailAddresses = L"AllEmailAddresses";
+}  // namespace ContactKey
+
+/// Keys of GetTaskProperty and SetTaskProperty, for the current task.
+namespace TaskKey {
+constexpr const wchar_t* Body = L"Body";
+constexpr const wchar_t* CreationDate = L"CreationDate";
+constexpr const wchar_t* CreationTime = L"CreationTime";
+constexpr const wchar_t* DueDate = L"DueDate";
+constexpr const wchar_t* EntryID = L"EntryID";
+constexpr const wchar_t* Folder = L"Folder";
+constexpr const wchar_t* ModifiedDate = L"ModifiedDate";
+constexpr const wchar_t* ModifiedTime = L"ModifiedTime";
+constexpr const wchar_t* PercentComplete = L"PercentComplete";
+constexpr const wchar_t* Priority = L"Priority";
+constexpr const wchar_t* Reminder = L"Reminder";
+constexpr const wchar_t* ReminderDate = L"ReminderDate";
+constexpr const wchar_t* ReminderTime = L"ReminderTime";
+constexpr const wchar_t* Subject = L"Subject";
+constexpr const wchar_t* StartDate = L"StartDate";
+constexpr const wchar_t* Status = L"Status";
+}  // namespace TaskKey
+
+/// Keys of GetEmailProperty, for the current e-mail.
+namespace EmailKey {
+constexpr const wchar_t* AttachmentCount = L"Attachment Count";
+constexpr const wchar_t* Attachments = L"Attachments";
+constexpr const wchar_t* BCC = L"BCC";
+constexpr const wchar_t* Body = L"Body";
+constexpr const wchar_t* CC = L"CC";
+constexpr const wchar_t* Class = L"Class";
+constexpr const wchar_t* EntryID = L"EntryID";
+constexpr const wchar_t* HTMLBody = L"HTMLBody";
+constexpr const wchar_t* Importance = L"Importance";
+constexpr const wchar_t* Parent = L"Parent";
+constexpr const wchar_t* ReceivedDate = L"ReceivedDate";
+constexpr const wchar_t* ReceivedTime = L"ReceivedTime";
+constexpr const wchar_t* Recipients = L"Recipients";
+constexpr const wchar_t* SenderEmailAddress = L"SenderEmailAddress";
+constexpr const wchar_t* SenderName = L"SenderName";
+constexpr const wchar_t* Sensitivity = L"Sensitivity";
+constexpr const wchar_t* Size = L"Size";
+constexpr const wchar_t* Subject = L"Subject";
+constexpr const wchar_t* To = L"To";
+}  // namespace EmailKey
+
+/// Keys of GetNoteProperty and SetNoteProperty, for the current note.
+namespace NoteKey {
+constexpr const wchar_t* Body = L"Body";
+constexpr const wchar_t* Categories = L"Categories";
+constexpr const wchar_t* Class = L"Class";
+constexpr const wchar_t* Color = L"Color";
+constexpr const wchar_t* CreationTime = L"CreationTime";
+constexpr const wchar_t* DownloadState = L"DownloadState";
+constexpr const wchar_t* EntryID = L"EntryID";
+constexpr const wchar_t* Folder = L"Folder";
+constexpr const wchar_t* Height = L"Height";
+constexpr const wchar_t* IsConflict = L"IsConflict";
+constexpr const wchar_t* ModifiedDate = L"ModifiedDate";
+constexpr const wchar_t* ModifiedTime = L"ModifiedTime";
+constexpr const wchar_t* Left = L"Left";
+constexpr const wchar_t* MarkForDownload = L"MarkForDownload";
+constexpr const wchar_t* MessageClass = L"MessageClass";
+constexpr const wchar_t* Parent = L"Parent";
+constexpr const wchar_t* Saved = L"Saved";
+constexpr const wchar_t* Size = L"Size";
+constexpr const wchar_t* Subject = L"Subject";
+constexpr const wchar_t* Top = L"Top";
+constexpr const wchar_t* Width = L"Width";
+}  // namespace NoteKey
+
+// The interfaces, for calls by vtable. What the members do stands with the classes below.
+
+// Published as _ZORBWord.
+struct ZORBOFFICE_UUID("79397B6A-4416-4196-8824-6E599916DC95") IZORBWord : public IDispatch {
+  virtual HRESULT STDMETHODCALLTYPE get_Start(VARIANT_BOOL* Template, BYTE* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_SetVisible(VARIANT_BOOL* IsVisible, BYTE* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_SetActive(VARIANT_BOOL* IsActive, BYTE* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_OpenDoc(BSTR* Doc, BYTE* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_CreateDoc(BSTR* Doc, BYTE* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_SendText(BSTR* Text, BYTE* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_ReadText(LONG* StartPos, LONG* EndPos, BSTR* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_SetScreenUpdating(VARIANT_BOOL* Update, BYTE* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_Search(BSTR* SearchString, BYTE* WrapAction,
+      VARIANT_BOOL* SearchForward, VARIANT_BOOL* BeginAtTop, VARIANT_BOOL* MatchCase,
+      VARIANT_BOOL* MatchWholeWord, VARIANT_BOOL* MatchWildcards, VARIANT_BOOL* MatchSoundsLike,
+      VARIANT_BOOL* MatchAllWordForms, BYTE* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_InTable(BYTE* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE SelectRow(VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_Replace(BSTR* SearchString, BSTR* ReplaceString, BYTE* WrapAction,
+      VARIANT_BOOL* SearchForward, VARIANT_BOOL* BeginAtTop, VARIANT_BOOL* MatchCase,
+      VARIANT_BOOL* MatchWholeWord, VARIANT_BOOL* MatchWildcards, VARIANT_BOOL* MatchSoundsLike,
+      VARIANT_BOOL* MatchAllWordForms, BYTE* ReplaceOption, BYTE* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_NumberOfSections(LONG* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_ReadHeaderFooterText(LONG* Section, VARIANT_BOOL* IsHeader,
+      BYTE* HeaderFooterType, LONG* StartPos, LONG* EndPos, BSTR* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_SetHeaderFooter(BSTR* SourceTemplate, BSTR* DestTemplate,
+      VARIANT_BOOL* ApplyHeader, VARIANT_BOOL* ApplyFooter, VARIANT_BOOL* ApplyFont, BYTE* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_ReplaceHeaderFooter(LONG* Section, VARIANT_BOOL* IsHeader,
+      BYTE* HeaderFooterType, BSTR* SearchString, BSTR* ReplaceString, BYTE* WrapAction,
+      VARIANT_BOOL* SearchForward, VARIANT_BOOL* BeginAtTop, VARIANT_BOOL* MatchCase,
+      VARIANT_BOOL* MatchWholeWord, VARIANT_BOOL* MatchWildcards, VARIANT_BOOL* MatchSoundsLike,
+      VARIANT_BOOL* MatchAllWordForms, BYTE* ReplaceOption, BYTE* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_CellCount(LONG* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_CellText(LONG* CellId, BSTR* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE Cut(VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE SelectParagraph(VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_SelectionText(BSTR* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE Paste(VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE CursorLeft(SHORT* Units, SHORT* Unit, VARIANT* Selecting,
+      VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE CursorRight(SHORT* Units, SHORT* Unit, VARIANT* Selecting,
+      VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE CursorStartOfParagraph(VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE CursorStartOfCell(VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE CursorEndOfCell(VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE CursorEndOfParagraph(VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE Move(SHORT* Unit, SHORT* Units, VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE FinaliseDoc(VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE SaveDoc(BSTR* Docname, VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE SaveDocAsPDF(VARIANT_BOOL* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE CloseDoc(SHORT* SaveOption, VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE StopWord(VARIANT_BOOL* Force, VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE PrintDoc(SHORT* Copies, VARIANT_BOOL* Background, VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE IsPrinting(SHORT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE GetDefaultPaths(SHORT* PathId, BSTR* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE GotoLine(SHORT* LineNo, VARIANT_BOOL* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_GetLastErrorNumber(LONG* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_GetLastErrorDescription(BSTR* result) = 0;
+};
+
+// Published as _ZORBOutlook.
+struct ZORBOFFICE_UUID("A7E31FE0-E2A1-4B1E-B386-22564026551D") IZORBOutlook : public IDispatch {
+  virtual HRESULT STDMETHODCALLTYPE StartOutlook(VARIANT_BOOL* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE StopOutlook(VARIANT_BOOL Force, VARIANT_BOOL* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE NewEmail(BSTR* Template, BSTR* ToAddress, BSTR* CCAddress,
+      BSTR* BCCAddress, BSTR* Subject, BSTR* Content, VARIANT_BOOL* UseHTML, VARIANT_BOOL* AutoSend,
+      BSTR* Attachment, VARIANT_BOOL* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE OpenItem(BSTR EntryType, VARIANT_BOOL* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE InitItems(BSTR EntryType, BSTR Condition, VARIANT_BOOL* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE CreateItem(BSTR EntryType, VARIANT_BOOL* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE DeleteItem(BSTR EntryType, VARIANT_BOOL* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE GetItem(BSTR EntryType, BSTR EntryId, VARIANT_BOOL* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE GetAppointmentInstance(BSTR EntryDate, VARIANT_BOOL* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE SaveItem(BSTR EntryType, VARIANT_BOOL* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE SaveItemToFile(BSTR EntryType, BSTR FileName, VARIANT_BOOL* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE SaveEmailAttachment(SHORT AttachmentNo, BSTR FileName,
+      VARIANT_BOOL* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE GetItemCount(BSTR EntryType, SHORT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE GetFirstItem(BSTR EntryType, VARIANT_BOOL* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE GetNextItem(BSTR EntryType, VARIANT_BOOL* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE GetAppointmentProperty(BSTR AppProp, BSTR* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE SetAppointmentProperty(BSTR AppProp, BSTR PropertyValue,
+      VARIANT_BOOL* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE GetRecurrencePattern(VARIANT_BOOL* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE ClearRecurrencePattern(VARIANT_BOOL* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE GetRecurrenceProperty(BSTR RecurProp, BSTR* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE SetRecurrenceProperty(BSTR RecurProp, BSTR PropertyValue,
+      BSTR* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE GetExceptionProperty(SHORT Instance, BSTR ExceptProp, BSTR* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE GetContactProperty(BSTR ContactProp, BSTR* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE SetContactProperty(BSTR ContactProp, BSTR PropertyValue,
+      VARIANT_BOOL* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE GetTaskProperty(BSTR TaskProp, BSTR* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE SetTaskProperty(BSTR TaskProperty, BSTR PropertyValue,
+      VARIANT_BOOL* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE GetEmailProperty(BSTR EmailProp, BSTR* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE GetNoteProperty(BSTR NoteProperty, BSTR* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE SetNoteProperty(BSTR NoteProperty, BSTR PropertyValue,
+      VARIANT_BOOL* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE GetLastErrorNumber(SHORT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE GetLastErrorDescription(BSTR* result) = 0;
+};
+
+// Published as _OpenWriter.
+struct ZORBOFFICE_UUID("8A83A708-86A0-414A-A588-7DC374938729") IOpenWriter : public IDispatch {
+  virtual HRESULT STDMETHODCALLTYPE get_Start(VARIANT_BOOL* Template, BYTE* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_SetVisible(VARIANT_BOOL* IsVisible, BYTE* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_SetActive(VARIANT_BOOL* IsActive, BYTE* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_OpenDoc(BSTR* Doc, BYTE* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_CreateDoc(BSTR* Doc, BYTE* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_SendText(BSTR* Text, BYTE* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_ReadText(LONG* StartPos, LONG* EndPos, BSTR* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_SetScreenUpdating(VARIANT_BOOL* Update, BYTE* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_Search(BSTR* SearchString, BYTE* WrapAction,
+      VARIANT_BOOL* SearchForward, VARIANT_BOOL* BeginAtTop, VARIANT_BOOL* MatchCase,
+      VARIANT_BOOL* MatchWholeWord, VARIANT_BOOL* MatchWildcards, VARIANT_BOOL* MatchSoundsLike,
+      VARIANT_BOOL* MatchAllWordForms, BYTE* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_InTable(BYTE* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE SelectRow(VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_Replace(BSTR* SearchString, BSTR* ReplaceString, BYTE* WrapAction,
+      VARIANT_BOOL* SearchForward, VARIANT_BOOL* BeginAtTop, VARIANT_BOOL* MatchCase,
+      VARIANT_BOOL* MatchWholeWord, VARIANT_BOOL* MatchWildcards, VARIANT_BOOL* MatchSoundsLike,
+      VARIANT_BOOL* MatchAllWordForms, BYTE* ReplaceOption, BYTE* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_NumberOfSections(LONG* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_ReadHeaderFooterText(LONG* Section, VARIANT_BOOL* IsHeader,
+      BYTE* HeaderFooterType, LONG* StartPos, LONG* EndPos, BSTR* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_SetHeaderFooter(BSTR* SourceTemplate, BSTR* DestTemplate,
+      BYTE* ApplyHeader, BYTE* ApplyFooter, BYTE* ApplyFont, BYTE* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_ReplaceHeaderFooter(LONG* Section, VARIANT_BOOL* IsHeader,
+      BYTE* HeaderFooterType, BSTR* SearchString, BSTR* ReplaceString, BYTE* WrapAction,
+      VARIANT_BOOL* SearchForward, VARIANT_BOOL* BeginAtTop, VARIANT_BOOL* MatchCase,
+      VARIANT_BOOL* MatchWholeWord, VARIANT_BOOL* MatchWildcards, VARIANT_BOOL* MatchSoundsLike,
+      VARIANT_BOOL* MatchAllWordForms, BYTE* ReplaceOption, BYTE* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_CellCount(LONG* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_CellText(LONG* CellId, BSTR* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE Cut(VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE SelectParagraph(VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_SelectionText(BSTR* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE Paste(VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE CursorLeft(SHORT* Units, SHORT* Unit, VARIANT* Selecting,
+      VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE CursorRight(SHORT* Units, SHORT* Unit, VARIANT* Selecting,
+      VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE CursorStartOfParagraph(VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE CursorStartOfCell(VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE CursorEndOfCell(VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE CursorEndOfParagraph(VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE Move(SHORT* Unit, SHORT* Units, VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE FinaliseDoc(VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE SaveDoc(BSTR* Docname, VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE SaveDocAsPDF(VARIANT_BOOL* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE CloseDoc(SHORT* SaveOption, VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE StopWord(VARIANT_BOOL* Force, VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE PrintDoc(SHORT* Copies, VARIANT_BOOL* Background, VARIANT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE IsPrinting(SHORT* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE GetDefaultPaths(SHORT* PathId, BSTR* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE GotoLine(SHORT* LineNo, VARIANT_BOOL* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_GetLastErrorNumber(LONG* result) = 0;
+  virtual HRESULT STDMETHODCALLTYPE get_GetLastErrorDescription(BSTR* result) = 0;
+};
+
+/// A call that failed: the code that the call returned, and what it said, in UTF-8 and as it came.
+class Error : public std::runtime_error {
+ public:
+  Error(HRESULT code, const std::wstring& text) : std::runtime_error(narrow(text)), code_(code), text_(text) {}
+  HRESULT code() const { return code_; }
+  const std::wstring& text() const { return text_; }
+
+ private:
+  static std::string narrow(const std::wstring& text) {
+    const int size = static_cast<int>(text.size());
+    std::string bytes(3 * text.size(), '\0');
+    if (size) bytes.resize(WideCharToMultiByte(CP_UTF8, 0, text.data(), size, &bytes[0], 3 * size, nullptr, nullptr));
+    return bytes;
+  }
+
+  HRESULT code_;
+  std::wstring text_;
+};
+
+/// COM in this thread, from here to the end of the block.
+class Apartment {
+ public:
+  Apartment() : status_(CoInitializeEx(nullptr, COINIT_APARTMENTTHREADED)) {
+    if (FAILED(status_)) throw Error(status_, L"COM cannot be initialised");
+  }
+  ~Apartment() { CoUninitialize(); }
+  Apartment(const Apartment&) = delete;
+  Apartment& operator=(const Apartment&) = delete;
+
+ private:
+  HRESULT status_;
+};
+
+/// Makes the controls known to this thread without registration, from here to the end of the block; controls that were created
+/// stay usable. The path names ZORBOffice.manifest or ZORBOffice.ocx, of the program's own bitness.
+class UnregisteredLibrary {
+ public:
+  explicit UnregisteredLibrary(const std::wstring& path) : context_(INVALID_HANDLE_VALUE), cookie_(0) {
+    ACTCTXW source = ACTCTXW();
+    source.cbSize = sizeof source;
+    source.lpSource = path.c_str();
+    const std::size_t dot = path.rfind(L'.');
+    if (dot == std::wstring::npos || lstrcmpiW(path.c_str() + dot, L".manifest") != 0) {
+      source.dwFlags = ACTCTX_FLAG_RESOURCE_NAME_VALID;  // the library holds its manifest as resource 1
+      source.lpResourceName = MAKEINTRESOURCEW(1);
+    }
+    context_ = CreateActCtxW(&source);
+    if (context_ == INVALID_HANDLE_VALUE) fail(path);
+    if (!ActivateActCtx(context_, &cookie_)) {
+      ReleaseActCtx(context_);
+      fail(path);
+    }
+  }
+  ~UnregisteredLibrary() {
+    DeactivateActCtx(0, cookie_);
+    ReleaseActCtx(context_);
+  }
+  UnregisteredLibrary(const UnregisteredLibrary&) = delete;
+  UnregisteredLibrary& operator=(const UnregisteredLibrary&) = delete;
+
+ private:
+  static void fail(const std::wstring& path) {
+    throw Error(HRESULT_FROM_WIN32(GetLastError()), L"The library's manifest cannot be used: " + path);
+  }
+
+  HANDLE context_;
+  ULONG_PTR cookie_;
+};
+
+namespace detail {
+
+// A value on its way to a member or back, by value or by reference.
+template <class Published>
+class Value {
+ public:
+  explicit Value(Published value = Published()) : value_(value) {}
+  operator Published() const { return value_; }
+  operator Published*() { return &value_; }
+  Published plain() const { return value_; }
+
+ protected:
+  Published value_;
+};
+
+typedef Value<SHORT> Int16;
+typedef Value<LONG> Int32;
+
+struct Byte : Value<BYTE> {
+  explicit Byte(BYTE value = 0) : Value<BYTE>(value) {}
+  bool plain() const { return value_ != 0; }  // as a result it is 1 or 0
+};
+
+struct Flag : Value<VARIANT_BOOL> {
+  explicit Flag(bool value = false) : Value<VARIANT_BOOL>(value ? VARIANT_TRUE : VARIANT_FALSE) {}
+  bool plain() const { return value_ != VARIANT_FALSE; }
+};
+
+struct Text : Value<BSTR> {
+  Text() {}
+  explicit Text(const std::wstring& text)
+      : Value<BSTR>(SysAllocStringLen(text.data(), static_cast<UINT>(text.size()))) {
+    if (!value_) throw std::bad_alloc();
+  }
+  ~Text() { SysFreeString(value_); }
+  Text(const Text&) = delete;
+  Text& operator=(const Text&) = delete;
+  std::wstring plain() const { return std::wstring(value_ ? value_ : L"", SysStringLen(value_)); }
+};
+
+struct Variant : Value<VARIANT> {
+  explicit Variant(LONG number = 0) {
+    VariantInit(&value_);
+    value_.vt = VT_I4;
+    value_.lVal = number;
+  }
+  ~Variant() { VariantClear(&value_); }
+  Variant(const Variant&) = delete;
+  Variant& operator=(const Variant&) = delete;
+};
+
+// Throws what a failed call says of itself.
+inline void check(HRESULT status) {
+  if (SUCCEEDED(status)) return;
+  Text text;
+  IErrorInfo* information = nullptr;
+  if (GetErrorInfo(0, &information) == S_OK) {
+    information->GetDescription(text);
+    information->Release();
+  }
+  throw Error(status, SysStringLen(text) ? text.plain() : L"A call of ZORBOffice failed");
+}
+
+// Holds a control by its interface.
+template <class Interface>
+class Control {
+ public:
+  Interface* control() const { return control_; }
+
+  Control(const Control&) = delete;
+  Control& operator=(const Control&) = delete;
+
+ protected:
+  Control(REFCLSID class_id, REFIID interface_id) : control_(nullptr) {
+    void* made = nullptr;
+    check(CoCreateInstance(class_id, nullptr, CLSCTX_INPROC_SERVER, interface_id, &made));
+    control_ = static_cast<Interface*>(made);
+  }
+  explicit Control(Interface* control) : control_(control) { control_->AddRef(); }
+  ~Control() { control_->Release(); }
+
+  Interface* control_;
+};
+
+}  // namespace detail
+
+/// Drives Microsoft Word.
+class ZORBWord : public detail::Control<IZORBWord> {
+ public:
+  /// Creates the control.
+  ZORBWord() : Control(CLSID_ZORBWord, IID_IZORBWord) {}
+  /// Takes one that exists, such as a form's.
+  explicit ZORBWord(IZORBWord* control) : Control(control) {}
+
+  /// Both classes publish the same forty members in the same slots; early-bound hosts rely on it.
+  bool Start(bool Template = false) {
+    detail::Byte result;
+    detail::check(control_->get_Start(detail::Flag(Template), result));
+    return result.plain();
+  }
+
+  /// Shows or hides the application (IsVisible: flag) and activates it.
+  bool SetVisible(bool IsVisible) {
+    detail::Byte result;
+    detail::check(control_->get_SetVisible(detail::Flag(IsVisible), result));
+    return result.plain();
+  }
+
+  /// Activates the application, whatever IsActive (flag) says.
+  bool SetActive(bool IsActive) {
+    detail::Byte result;
+    detail::check(control_->get_SetActive(detail::Flag(IsActive), result));
+    return result.plain();
+  }
+
+  /// Opens the file Doc (path) and makes it the active document.
+  bool OpenDoc(const std::wstring& Doc) {
+    detail::Byte result;
+    detail::check(control_->get_OpenDoc(detail::Text(Doc), result));
+    return result.plain();
+  }
+
+  /// Creates a document from the template Doc (path, optional, default "": the normal template) and makes it
+  /// the active document; the earlier one stays when that fails.
+  bool CreateDoc(const std::wstring& Doc = L"") {
+    detail::Byte result;
+    detail::check(control_->get_CreateDoc(detail::Text(Doc), result));
+    return result.plain();
+  }
+
+  /// Types Text at the selection.
+  bool SendText(const std::wstring& Text) {
+    detail::Byte result;
+    detail::check(control_->get_SendText(detail::Text(Text), result));
+    return result.plain();
+  }
+
+  /// Reads the document's text from character StartPos to EndPos, counted from 0. A start of 0 or less with
+  /// an end means 1, so the first character is left out; an end of 0 or less means the text's length; both 0
+  /// or less read all sections' texts, joined.
+  std::wstring ReadText(long StartPos, long EndPos) {
+    detail::Text result;
+    detail::check(control_->get_ReadText(detail::Int32(StartPos), detail::Int32(EndPos), result));
+    return result.plain();
+  }
+
+  /// Switches the redrawing of the application's windows (Update: flag).
+  bool SetScreenUpdating(bool Update) {
+    detail::Byte result;
+    detail::check(control_->get_SetScreenUpdating(detail::Flag(Update), result));
+    return result.plain();
+  }
+
+  /// Finds SearchString and selects it.
+  bool Search(const std::wstring& SearchString, WdFindWrap WrapAction = wdFindContinue,
+      bool SearchForward = true, bool BeginAtTop = false, bool MatchCase = false, bool MatchWholeWord = false,
+      bool MatchWildcards = false, bool MatchSoundsLike = false, bool MatchAllWordForms = false) {
+    detail::Byte result;
+    detail::check(control_->get_Search(detail::Text(SearchString), detail::Byte(WrapAction),
+        detail::Flag(SearchForward), detail::Flag(BeginAtTop), detail::Flag(MatchCase),
+        detail::Flag(MatchWholeWord), detail::Flag(MatchWildcards), detail::Flag(MatchSoundsLike),
+        detail::Flag(MatchAllWordForms), result));
+    return result.plain();
+  }
+
+  /// Returns 1 when the selection is in a table.
+  bool InTable() {
+    detail::Byte result;
+    detail::check(control_->get_InTable(result));
+    return result.plain();
+  }
+
+  /// Selects the row of the table in which the selection is.
+  void SelectRow() {
+    detail::Variant result;
+    detail::check(control_->SelectRow(result));
+  }
+
+  /// Finds SearchString from the selection on and replaces it by ReplaceString.
+  bool Replace(const std::wstring& SearchString, const std::wstring& ReplaceString,
+      WdFindWrap WrapAction = wdFindContinue, bool SearchForward = true, bool BeginAtTop = true,
+      bool MatchCase = false, bool MatchWholeWord = false, bool MatchWildcards = false,
+      bool MatchSoundsLike = false, bool MatchAllWordForms = false, WdReplace ReplaceOption = wdReplaceOne) {
+    detail::Byte result;
+    detail::check(control_->get_Replace(detail::Text(SearchString), detail::Text(ReplaceString),
+        detail::Byte(WrapAction), detail::Flag(SearchForward), detail::Flag(BeginAtTop),
+        detail::Flag(MatchCase), detail::Flag(MatchWholeWord), detail::Flag(MatchWildcards),
+        detail::Flag(MatchSoundsLike), detail::Flag(MatchAllWordForms), detail::Byte(ReplaceOption), result));
+    return result.plain();
+  }
+
+  /// Returns the number of sections of the active document.
+  long NumberOfSections() {
+    detail::Int32 result;
+    detail::check(control_->get_NumberOfSections(result));
+    return result.plain();
+  }
+
+  /// Reads a header's (IsHeader true) or footer's text of Section (counted from 1).
+  std::wstring ReadHeaderFooterText(long Section, bool IsHeader, WdHeaderFooterIndex HeaderFooterType,
+      long StartPos, long EndPos) {
+    detail::Text result;
+    detail::check(control_->get_ReadHeaderFooterText(detail::Int32(Section), detail::Flag(IsHeader),
+        detail::Byte(HeaderFooterType), detail::Int32(StartPos), detail::Int32(EndPos), result));
+    return result.plain();
+  }
+
+  /// Copies headers, footers and the normal style's font, each if chosen, from SourceTemplate to DestTemplate
+  /// (paths; empty or "Normal": the application's template), and saves the latter.
+  bool SetHeaderFooter(const std::wstring& SourceTemplate, const std::wstring& DestTemplate, bool ApplyHeader,
+      bool ApplyFooter, bool ApplyFont) {
+    detail::Byte result;
+    detail::check(control_->get_SetHeaderFooter(detail::Text(SourceTemplate), detail::Text(DestTemplate),
+        detail::Flag(ApplyHeader), detail::Flag(ApplyFooter), detail::Flag(ApplyFont), result));
+    return result.plain();
+  }
+
+  /// Replace, within one header or footer, named as in ReadHeaderFooterText; in one that does not exist
+  /// nothing is found.
+  bool ReplaceHeaderFooter(long Section, bool IsHeader, WdHeaderFooterIndex HeaderFooterType,
+      const std::wstring& SearchString, const std::wstring& ReplaceString,
+      WdFindWrap WrapAction = wdFindContinue, bool SearchForward = true, bool BeginAtTop = true,
+      bool MatchCase = false, bool MatchWholeWord = false, bool MatchWildcards = false,
+      bool MatchSoundsLike = false, bool MatchAllWordForms = false, WdReplace ReplaceOption = wdReplaceOne) {
+    detail::Byte result;
+    detail::check(control_->get_ReplaceHeaderFooter(detail::Int32(Section), detail::Flag(IsHeader),
+        detail::Byte(HeaderFooterType), detail::Text(SearchString), detail::Text(ReplaceString),
+        detail::Byte(WrapAction), detail::Flag(SearchForward), detail::Flag(BeginAtTop),
+        detail::Flag(MatchCase), detail::Flag(MatchWholeWord), detail::Flag(MatchWildcards),
+        detail::Flag(MatchSoundsLike), detail::Flag(MatchAllWordForms), detail::Byte(ReplaceOption), result));
+    return result.plain();
+  }
+
+  /// Returns the number of cells of the selection's first row.
+  long CellCount() {
+    detail::Int32 result;
+    detail::check(control_->get_CellCount(result));
+    return result.plain();
+  }
+
+  /// Returns the text of cell CellId (counted from 1) of the selection's first row, its end-of-cell mark
+  /// included.
+  std::wstring CellText(long CellId) {
+    detail::Text result;
+    detail::check(control_->get_CellText(detail::Int32(CellId), result));
+    return result.plain();
+  }
+
+  /// Cuts the selection to the clipboard.
+  void Cut() {
+    detail::Variant result;
+    detail::check(control_->Cut(result));
+  }
+
+  /// Selects the paragraph in which the selection starts.
+  void SelectParagraph() {
+    detail::Variant result;
+    detail::check(control_->SelectParagraph(result));
+  }
+
+  /// Returns the selected text, "" on failure.
+  std::wstring SelectionText() {
+    detail::Text result;
+    detail::check(control_->get_SelectionText(result));
+    return result.plain();
+  }
+
+  /// Pastes the clipboard at the selection.
+  void Paste() {
+    detail::Variant result;
+    detail::check(control_->Paste(result));
+  }
+
+  /// Moves the insertion point left by Units units.
+  void CursorLeft(short Units, WdUnits Unit = wdCharacter, WdMovementType Selecting = wdMove) {
+    detail::Variant result;
+    detail::check(control_->CursorLeft(detail::Int16(Units), detail::Int16(Unit), detail::Variant(Selecting),
+        result));
+  }
+
+  /// CursorLeft to the right.
+  void CursorRight(short Units, WdUnits Unit = wdCharacter, WdMovementType Selecting = wdMove) {
+    detail::Variant result;
+    detail::check(control_->CursorRight(detail::Int16(Units), detail::Int16(Unit), detail::Variant(Selecting),
+        result));
+  }
+
+  /// Moves the insertion point to the start of its paragraph.
+  void CursorStartOfParagraph() {
+    detail::Variant result;
+    detail::check(control_->CursorStartOfParagraph(result));
+  }
+
+  /// Moves the insertion point to the start of its cell.
+  void CursorStartOfCell() {
+    detail::Variant result;
+    detail::check(control_->CursorStartOfCell(result));
+  }
+
+  /// Moves the insertion point to the end of its cell.
+  void CursorEndOfCell() {
+    detail::Variant result;
+    detail::check(control_->CursorEndOfCell(result));
+  }
+
+  /// Moves the insertion point to the end of its paragraph.
+  void CursorEndOfParagraph() {
+    detail::Variant result;
+    detail::check(control_->CursorEndOfParagraph(result));
+  }
+
+  /// Collapses the selection and moves it by Units units of Unit (a wdUnits value).
+  void Move(WdUnits Unit, short Units) {
+    detail::Variant result;
+    detail::check(control_->Move(detail::Int16(Unit), detail::Int16(Units), result));
+  }
+
+  /// Updates the document's styles and parts it from its template.
+  void FinaliseDoc() {
+    detail::Variant result;
+    detail::check(control_->FinaliseDoc(result));
+  }
+
+  /// Saves the document, as Docname (path, optional) when that is not empty.
+  void SaveDoc(const std::wstring& Docname = L"") {
+    detail::Variant result;
+    detail::check(control_->SaveDoc(detail::Text(Docname), result));
+  }
+
+  /// Prints the document to the first installed printer whose name contains "PDF", in capitals, and returns
+  /// true; false when there is none.
+  bool SaveDocAsPDF() {
+    detail::Flag result;
+    detail::check(control_->SaveDocAsPDF(result));
+    return result.plain();
+  }
+
+  /// Closes the document and lets go of it.
+  void CloseDoc(WdSaveOptions SaveOption = wdDoNotSaveChanges) {
+    detail::Variant result;
+    detail::check(control_->CloseDoc(detail::Int16(SaveOption), result));
+  }
+
+  /// Quits the application and lets go of it: with Force (flag, optional) always, otherwise only when no
+  /// document is open.
+  void StopWord(bool Force = false) {
+    detail::Variant result;
+    detail::check(control_->StopWord(detail::Flag(Force), result));
+  }
+
+  /// Prints Copies copies of the document, then lets the host's pending window messages run once.
+  void PrintDoc(short Copies, bool Background = false) {
+    detail::Variant result;
+    detail::check(control_->PrintDoc(detail::Int16(Copies), detail::Flag(Background), result));
+  }
+
+  /// Returns how many documents are being printed or saved in the background, 0 when none.
+  short IsPrinting() {
+    detail::Int16 result;
+    detail::check(control_->IsPrinting(result));
+    return result.plain();
+  }
+
+  /// Returns the application's default folder PathId (a wdDefaultFilePath value), "" on failure.
+  std::wstring GetDefaultPaths(WdDefaultFilePath PathId) {
+    detail::Text result;
+    detail::check(control_->GetDefaultPaths(detail::Int16(PathId), result));
+    return result.plain();
+  }
+
+  /// Moves the insertion point to line LineNo, counted from 1; returns true, or false on failure.
+  bool GotoLine(short LineNo) {
+    detail::Flag result;
+    detail::check(control_->GotoLine(detail::Int16(LineNo), result));
+    return result.plain();
+  }
+
+  /// Returns the number of the last recorded failure: always 0, because no member of these classes records.
+  long GetLastErrorNumber() {
+    detail::Int32 result;
+    detail::check(control_->get_GetLastErrorNumber(result));
+    return result.plain();
+  }
+
+  /// Returns the description of the last recorded failure: always "".
+  std::wstring GetLastErrorDescription() {
+    detail::Text result;
+    detail::check(control_->get_GetLastErrorDescription(result));
+    return result.plain();
+  }
+};
+
+/// Drives Microsoft Outlook.
+class ZORBOutlook : public detail::Control<IZORBOutlook> {
+ public:
+  /// Creates the control.
+  ZORBOutlook() : Control(CLSID_ZORBOutlook, IID_IZORBOutlook) {}
+  /// Takes one that exists, such as a form's.
+  explicit ZORBOutlook(IZORBOutlook* control) : Control(control) {}
+
+  /// All parameters are passed by value, but for NewEmail's.
+  bool StartOutlook() {
+    detail::Flag result;
+    detail::check(control_->StartOutlook(result));
+    return result.plain();
+  }
+
+  /// Ends the work; quits Outlook only when Force (optional, default false) is true.
+  bool StopOutlook(bool Force = false) {
+    detail::Flag result;
+    detail::check(control_->StopOutlook(detail::Flag(Force), result));
+    return result.plain();
+  }
+
+  /// Composes one mail, and sends (AutoSend) or shows it.
+  bool NewEmail(const std::wstring& Template, const std::wstring& ToAddress, const std::wstring& CCAddress,
+      const std::wstring& BCCAddress, const std::wstring& Subject, const std::wstring& Content, bool UseHTML,
+      bool AutoSend, const std::wstring& Attachment) {
+    detail::Flag result;
+    detail::check(control_->NewEmail(detail::Text(Template), detail::Text(ToAddress), detail::Text(CCAddress),
+        detail::Text(BCCAddress), detail::Text(Subject), detail::Text(Content), detail::Flag(UseHTML),
+        detail::Flag(AutoSend), detail::Text(Attachment), result));
+    return result.plain();
+  }
+
+  /// Shows the current item of the entry type in Outlook's own window.
+  bool OpenItem(const std::wstring& EntryType) {
+    detail::Flag result;
+    detail::check(control_->OpenItem(detail::Text(EntryType), result));
+    return result.plain();
+  }
+
+  /// Fills the entry type's collection from its default folder, restricted by Condition unless that is empty,
+  /// sorted.
+  bool InitItems(const std::wstring& EntryType, const std::wstring& Condition) {
+    detail::Flag result;
+    detail::check(control_->InitItems(detail::Text(EntryType), detail::Text(Condition), result));
+    return result.plain();
+  }
+
+  /// Makes a new, unsaved item current.
+  bool CreateItem(const std::wstring& EntryType) {
+    detail::Flag result;
+    detail::check(control_->CreateItem(detail::Text(EntryType), result));
+    return result.plain();
+  }
+
+  /// Deletes the current item.
+  bool DeleteItem(const std::wstring& EntryType) {
+    detail::Flag result;
+    detail::check(control_->DeleteItem(detail::Text(EntryType), result));
+    return result.plain();
+  }
+
+  /// Makes the item with the identifier EntryId current.
+  bool GetItem(const std::wstring& EntryType, const std::wstring& EntryId) {
+    detail::Flag result;
+    detail::check(control_->GetItem(detail::Text(EntryType), detail::Text(EntryId), result));
+    return result.plain();
+  }
+
+  /// Makes the current appointment's occurrence of EntryDate (date text in the user's locale) current.
+  bool GetAppointmentInstance(const std::wstring& EntryDate) {
+    detail::Flag result;
+    detail::check(control_->GetAppointmentInstance(detail::Text(EntryDate), result));
+    return result.plain();
+  }
+
+  /// Saves the current item.
+  bool SaveItem(const std::wstring& EntryType) {
+    detail::Flag result;
+    detail::check(control_->SaveItem(detail::Text(EntryType), result));
+    return result.plain();
+  }
+
+  /// Exports the current item to FileName (path) in Outlook's default format.
+  bool SaveItemToFile(const std::wstring& EntryType, const std::wstring& FileName) {
+    detail::Flag result;
+    detail::check(control_->SaveItemToFile(detail::Text(EntryType), detail::Text(FileName), result));
+    return result.plain();
+  }
+
+  /// Saves an attachment of the current e-mail to FileName (path).
+  bool SaveEmailAttachment(short AttachmentNo, const std::wstring& FileName) {
+    detail::Flag result;
+    detail::check(control_->SaveEmailAttachment(detail::Int16(AttachmentNo), detail::Text(FileName), result));
+    return result.plain();
+  }
+
+  /// Returns the number of items in the entry type's collection, 0 on failure and above 32767.
+  short GetItemCount(const std::wstring& EntryType) {
+    detail::Int16 result;
+    detail::check(control_->GetItemCount(detail::Text(EntryType), result));
+    return result.plain();
+  }
+
+  /// Makes the collection's first item of the entry type's class current; false when there is none.
+  bool GetFirstItem(const std::wstring& EntryType) {
+    detail::Flag result;
+    detail::check(control_->GetFirstItem(detail::Text(EntryType), result));
+    return result.plain();
+  }
+
+  /// Makes the collection's next item of the entry type's class current; false at the end.
+  bool GetNextItem(const std::wstring& EntryType) {
+    detail::Flag result;
+    detail::check(control_->GetNextItem(detail::Text(EntryType), result));
+    return result.plain();
+  }
+
+  /// Returns the current appointment's property AppProp as text.
+  std::wstring GetAppointmentProperty(const std::wstring& AppProp) {
+    detail::Text result;
+    detail::check(control_->GetAppointmentProperty(detail::Text(AppProp), result));
+    return result.plain();
+  }
+
+  /// Converts PropertyValue and writes it to the current appointment's property AppProp.
+  bool SetAppointmentProperty(const std::wstring& AppProp, const std::wstring& PropertyValue) {
+    detail::Flag result;
+    detail::check(control_->SetAppointmentProperty(detail::Text(AppProp), detail::Text(PropertyValue),
+        result));
+    return result.plain();
+  }
+
+  /// Takes the current appointment's recurrence pattern into the control.
+  bool GetRecurrencePattern() {
+    detail::Flag result;
+    detail::check(control_->GetRecurrencePattern(result));
+    return result.plain();
+  }
+
+  /// Makes the current appointment a single one.
+  bool ClearRecurrencePattern() {
+    detail::Flag result;
+    detail::check(control_->ClearRecurrencePattern(result));
+    return result.plain();
+  }
+
+  /// Returns the recurrence pattern's property RecurProp as text.
+  std::wstring GetRecurrenceProperty(const std::wstring& RecurProp) {
+    detail::Text result;
+    detail::check(control_->GetRecurrenceProperty(detail::Text(RecurProp), result));
+    return result.plain();
+  }
+
+  /// Converts PropertyValue and writes it to the recurrence pattern's property RecurProp.
+  std::wstring SetRecurrenceProperty(const std::wstring& RecurProp, const std::wstring& PropertyValue) {
+    detail::Text result;
+    detail::check(control_->SetRecurrenceProperty(detail::Text(RecurProp), detail::Text(PropertyValue),
+        result));
+    return result.plain();
+  }
+
+  /// Returns the property ExceptProp of the pattern's exception Instance (counted from 1) as text.
+  std::wstring GetExceptionProperty(short Instance, const std::wstring& ExceptProp) {
+    detail::Text result;
+    detail::check(control_->GetExceptionProperty(detail::Int16(Instance), detail::Text(ExceptProp), result));
+    return result.plain();
+  }
+
+  /// Returns the current contact's property ContactProp as text.
+  std::wstring GetContactProperty(const std::wstring& ContactProp) {
+    detail::Text result;
+    detail::check(control_->GetContactProperty(detail::Text(ContactProp), result));
+    return result.plain();
+  }
+
+  /// Writes PropertyValue to the current contact's property ContactProp.
+  bool SetContactProperty(const std::wstring& ContactProp, const std::wstring& PropertyValue) {
+    detail::Flag result;
+    detail::check(control_->SetContactProperty(detail::Text(ContactProp), detail::Text(PropertyValue),
+        result));
+    return result.plain();
+  }
+
+  /// Returns the current task's property TaskProp as text.
+  std::wstring GetTaskProperty(const std::wstring& TaskProp) {
+    detail::Text result;
+    detail::check(control_->GetTaskProperty(detail::Text(TaskProp), result));
+    return result.plain();
+  }
+
+  /// Converts PropertyValue and writes it to the current task's property TaskProperty.
+  bool SetTaskProperty(const std::wstring& TaskProperty, const std::wstring& PropertyValue) {
+    detail::Flag result;
+    detail::check(control_->SetTaskProperty(detail::Text(TaskProperty), detail::Text(PropertyValue), result));
+    return result.plain();
+  }
+
+  /// Returns the current e-mail's property EmailProp as text.
+  std::wstring GetEmailProperty(const std::wstring& EmailProp) {
+    detail::Text result;
+    detail::check(control_->GetEmailProperty(detail::Text(EmailProp), result));
+    return result.plain();
+  }
+
+  /// Returns the current note's property NoteProperty as text.
+  std::wstring GetNoteProperty(const std::wstring& NoteProperty) {
+    detail::Text result;
+    detail::check(control_->GetNoteProperty(detail::Text(NoteProperty), result));
+    return result.plain();
+  }
+
+  /// Converts PropertyValue and writes it to the current note's property NoteProperty.
+  bool SetNoteProperty(const std::wstring& NoteProperty, const std::wstring& PropertyValue) {
+    detail::Flag result;
+    detail::check(control_->SetNoteProperty(detail::Text(NoteProperty), detail::Text(PropertyValue), result));
+    return result.plain();
+  }
+
+  /// Returns the number of the last recorded failure, 0 before any.
+  short GetLastErrorNumber() {
+    detail::Int16 result;
+    detail::check(control_->GetLastErrorNumber(result));
+    return result.plain();
+  }
+
+  /// Returns the description of the last recorded failure, "" before any.
+  std::wstring GetLastErrorDescription() {
+    detail::Text result;
+    detail::check(control_->GetLastErrorDescription(result));
+    return result.plain();
+  }
+};
+
+/// Drives an office suite.
+class OpenWriter : public detail::Control<IOpenWriter> {
+ public:
+  /// Creates the control.
+  OpenWriter() : Control(CLSID_OpenWriter, IID_IOpenWriter) {}
+  /// Takes one that exists, such as a form's.
+  explicit OpenWriter(IOpenWriter* control) : Control(control) {}
+
+  /// Both classes publish the same forty members in the same slots; early-bound hosts rely on it.
+  bool Start(bool Template = false) {
+    detail::Byte result;
+    detail::check(control_->get_Start(detail::Flag(Template), result));
+    return result.plain();
+  }
+
+  /// Shows or hides the application (IsVisible: flag) and activates it.
+  bool SetVisible(bool IsVisible) {
+    detail::Byte result;
+    detail::check(control_->get_SetVisible(detail::Flag(IsVisible), result));
+    return result.plain();
+  }
+
+  /// Activates the application, whatever IsActive (flag) says.
+  bool SetActive(bool IsActive) {
+    detail::Byte result;
+    detail::check(control_->get_SetActive(detail::Flag(IsActive), result));
+    return result.plain();
+  }
+
+  /// Opens the file Doc (path) and makes it the active document.
+  bool OpenDoc(const std::wstring& Doc) {
+    detail::Byte result;
+    detail::check(control_->get_OpenDoc(detail::Text(Doc), result));
+    return result.plain();
+  }
+
+  /// Creates a document from the template Doc (path, optional, default "": the normal template) and makes it
+  /// the active document; the earlier one stays when that fails.
+  bool CreateDoc(const std::wstring& Doc = L"") {
+    detail::Byte result;
+    detail::check(control_->get_CreateDoc(detail::Text(Doc), result));
+    return result.plain();
+  }
+
+  /// Types Text at the selection.
+  bool SendText(const std::wstring& Text) {
+    detail::Byte result;
+    detail::check(control_->get_SendText(detail::Text(Text), result));
+    return result.plain();
+  }
+
+  /// Reads the document's text from character StartPos to EndPos, counted from 0. A start of 0 or less with
+  /// an end means 1, so the first character is left out; an end of 0 or less means the text's length; both 0
+  /// or less read all sections' texts, joined.
+  std::wstring ReadText(long StartPos, long EndPos) {
+    detail::Text result;
+    detail::check(control_->get_ReadText(detail::Int32(StartPos), detail::Int32(EndPos), result));
+    return result.plain();
+  }
+
+  /// Switches the redrawing of the application's windows (Update: flag).
+  bool SetScreenUpdating(bool Update) {
+    detail::Byte result;
+    detail::check(control_->get_SetScreenUpdating(detail::Flag(Update), result));
+    return result.plain();
+  }
+
+  /// Finds SearchString and selects it.
+  bool Search(const std::wstring& SearchString, WdFindWrap WrapAction = wdFindContinue,
+      bool SearchForward = true, bool BeginAtTop = false, bool MatchCase = false, bool MatchWholeWord = false,
+      bool MatchWildcards = false, bool MatchSoundsLike = false, bool MatchAllWordForms = false) {
+    detail::Byte result;
+    detail::check(control_->get_Search(detail::Text(SearchString), detail::Byte(WrapAction),
+        detail::Flag(SearchForward), detail::Flag(BeginAtTop), detail::Flag(MatchCase),
+        detail::Flag(MatchWholeWord), detail::Flag(MatchWildcards), detail::Flag(MatchSoundsLike),
+        detail::Flag(MatchAllWordForms), result));
+    return result.plain();
+  }
+
+  /// Returns 1 when the selection is in a table.
+  bool InTable() {
+    detail::Byte result;
+    detail::check(control_->get_InTable(result));
+    return result.plain();
+  }
+
+  /// Selects the row of the table in which the selection is.
+  void SelectRow() {
+    detail::Variant result;
+    detail::check(control_->SelectRow(result));
+  }
+
+  /// Finds SearchString from the selection on and replaces it by ReplaceString.
+  bool Replace(const std::wstring& SearchString, const std::wstring& ReplaceString,
+      WdFindWrap WrapAction = wdFindContinue, bool SearchForward = true, bool BeginAtTop = true,
+      bool MatchCase = false, bool MatchWholeWord = false, bool MatchWildcards = false,
+      bool MatchSoundsLike = false, bool MatchAllWordForms = false, WdReplace ReplaceOption = wdReplaceOne) {
+    detail::Byte result;
+    detail::check(control_->get_Replace(detail::Text(SearchString), detail::Text(ReplaceString),
+        detail::Byte(WrapAction), detail::Flag(SearchForward), detail::Flag(BeginAtTop),
+        detail::Flag(MatchCase), detail::Flag(MatchWholeWord), detail::Flag(MatchWildcards),
+        detail::Flag(MatchSoundsLike), detail::Flag(MatchAllWordForms), detail::Byte(ReplaceOption), result));
+    return result.plain();
+  }
+
+  /// Returns the number of sections of the active document.
+  long NumberOfSections() {
+    detail::Int32 result;
+    detail::check(control_->get_NumberOfSections(result));
+    return result.plain();
+  }
+
+  /// Reads a header's (IsHeader true) or footer's text of Section (counted from 1).
+  std::wstring ReadHeaderFooterText(long Section, bool IsHeader, WdHeaderFooterIndex HeaderFooterType,
+      long StartPos, long EndPos) {
+    detail::Text result;
+    detail::check(control_->get_ReadHeaderFooterText(detail::Int32(Section), detail::Flag(IsHeader),
+        detail::Byte(HeaderFooterType), detail::Int32(StartPos), detail::Int32(EndPos), result));
+    return result.plain();
+  }
+
+  /// Copies headers, footers and the normal style's font, each if chosen, from SourceTemplate to DestTemplate
+  /// (paths; empty or "Normal": the application's template), and saves the latter.
+  bool SetHeaderFooter(const std::wstring& SourceTemplate, const std::wstring& DestTemplate,
+      unsigned char ApplyHeader, unsigned char ApplyFooter, unsigned char ApplyFont) {
+    detail::Byte result;
+    detail::check(control_->get_SetHeaderFooter(detail::Text(SourceTemplate), detail::Text(DestTemplate),
+        detail::Byte(ApplyHeader), detail::Byte(ApplyFooter), detail::Byte(ApplyFont), result));
+    return result.plain();
+  }
+
+  /// Replace, within one header or footer, named as in ReadHeaderFooterText; in one that does not exist
+  /// nothing is found.
+  bool ReplaceHeaderFooter(long Section, bool IsHeader, WdHeaderFooterIndex HeaderFooterType,
+      const std::wstring& SearchString, const std::wstring& ReplaceString,
+      WdFindWrap WrapAction = wdFindContinue, bool SearchForward = true, bool BeginAtTop = true,
+      bool MatchCase = false, bool MatchWholeWord = false, bool MatchWildcards = false,
+      bool MatchSoundsLike = false, bool MatchAllWordForms = false, WdReplace ReplaceOption = wdReplaceOne) {
+    detail::Byte result;
+    detail::check(control_->get_ReplaceHeaderFooter(detail::Int32(Section), detail::Flag(IsHeader),
+        detail::Byte(HeaderFooterType), detail::Text(SearchString), detail::Text(ReplaceString),
+        detail::Byte(WrapAction), detail::Flag(SearchForward), detail::Flag(BeginAtTop),
+        detail::Flag(MatchCase), detail::Flag(MatchWholeWord), detail::Flag(MatchWildcards),
+        detail::Flag(MatchSoundsLike), detail::Flag(MatchAllWordForms), detail::Byte(ReplaceOption), result));
+    return result.plain();
+  }
+
+  /// Returns the number of cells of the selection's first row.
+  long CellCount() {
+    detail::Int32 result;
+    detail::check(control_->get_CellCount(result));
+    return result.plain();
+  }
+
+  /// Returns the text of cell CellId (counted from 1) of the selection's first row, its end-of-cell mark
+  /// included.
+  std::wstring CellText(long CellId) {
+    detail::Text result;
+    detail::check(control_->get_CellText(detail::Int32(CellId), result));
+    return result.plain();
+  }
+
+  /// Cuts the selection to the clipboard.
+  void Cut() {
+    detail::Variant result;
+    detail::check(control_->Cut(result));
+  }
+
+  /// Selects the paragraph in which the selection starts.
+  void SelectParagraph() {
+    detail::Variant result;
+    detail::check(control_->SelectParagraph(result));
+  }
+
+  /// Returns the selected text, "" on failure.
+  std::wstring SelectionText() {
+    detail::Text result;
+    detail::check(control_->get_SelectionText(result));
+    return result.plain();
+  }
+
+  /// Pastes the clipboard at the selection.
+  void Paste() {
+    detail::Variant result;
+    detail::check(control_->Paste(result));
+  }
+
+  /// Moves the insertion point left by Units units.
+  void CursorLeft(short Units, WdUnits Unit = wdCharacter, WdMovementType Selecting = wdMove) {
+    detail::Variant result;
+    detail::check(control_->CursorLeft(detail::Int16(Units), detail::Int16(Unit), detail::Variant(Selecting),
+        result));
+  }
+
+  /// CursorLeft to the right.
+  void CursorRight(short Units, WdUnits Unit = wdCharacter, WdMovementType Selecting = wdMove) {
+    detail::Variant result;
+    detail::check(control_->CursorRight(detail::Int16(Units), detail::Int16(Unit), detail::Variant(Selecting),
+        result));
+  }
+
+  /// Moves the insertion point to the start of its paragraph.
+  void CursorStartOfParagraph() {
+    detail::Variant result;
+    detail::check(control_->CursorStartOfParagraph(result));
+  }
+
+  /// Moves the insertion point to the start of its cell.
+  void CursorStartOfCell() {
+    detail::Variant result;
+    detail::check(control_->CursorStartOfCell(result));
+  }
+
+  /// Moves the insertion point to the end of its cell.
+  void CursorEndOfCell() {
+    detail::Variant result;
+    detail::check(control_->CursorEndOfCell(result));
+  }
+
+  /// Moves the insertion point to the end of its paragraph.
+  void CursorEndOfParagraph() {
+    detail::Variant result;
+    detail::check(control_->CursorEndOfParagraph(result));
+  }
+
+  /// Collapses the selection and moves it by Units units of Unit (a wdUnits value).
+  void Move(WdUnits Unit, short Units) {
+    detail::Variant result;
+    detail::check(control_->Move(detail::Int16(Unit), detail::Int16(Units), result));
+  }
+
+  /// Updates the document's styles and parts it from its template.
+  void FinaliseDoc() {
+    detail::Variant result;
+    detail::check(control_->FinaliseDoc(result));
+  }
+
+  /// Saves the document, as Docname (path, optional) when that is not empty.
+  void SaveDoc(const std::wstring& Docname = L"") {
+    detail::Variant result;
+    detail::check(control_->SaveDoc(detail::Text(Docname), result));
+  }
+
+  /// Prints the document to the first installed printer whose name contains "PDF", in capitals, and returns
+  /// true; false when there is none.
+  bool SaveDocAsPDF() {
+    detail::Flag result;
+    detail::check(control_->SaveDocAsPDF(result));
+    return result.plain();
+  }
+
+  /// Closes the document and lets go of it.
+  void CloseDoc(WdSaveOptions SaveOption = wdDoNotSaveChanges) {
+    detail::Variant result;
+    detail::check(control_->CloseDoc(detail::Int16(SaveOption), result));
+  }
+
+  /// Quits the application and lets go of it: with Force (flag, optional) always, otherwise only when no
+  /// document is open.
+  void StopWord(bool Force = false) {
+    detail::Variant result;
+    detail::check(control_->StopWord(detail::Flag(Force), result));
+  }
+
+  /// Prints Copies copies of the document, then lets the host's pending window messages run once.
+  void PrintDoc(short Copies, bool Background = false) {
+    detail::Variant result;
+    detail::check(control_->PrintDoc(detail::Int16(Copies), detail::Flag(Background), result));
+  }
+
+  /// Returns how many documents are being printed or saved in the background, 0 when none.
+  short IsPrinting() {
+    detail::Int16 result;
+    detail::check(control_->IsPrinting(result));
+    return result.plain();
+  }
+
+  /// Returns the application's default folder PathId (a wdDefaultFilePath value), "" on failure.
+  std::wstring GetDefaultPaths(WdDefaultFilePath PathId) {
+    detail::Text result;
+    detail::check(control_->GetDefaultPaths(detail::Int16(PathId), result));
+    return result.plain();
+  }
+
+  /// Moves the insertion point to line LineNo, counted from 1; returns true, or false on failure.
+  bool GotoLine(short LineNo) {
+    detail::Flag result;
+    detail::check(control_->GotoLine(detail::Int16(LineNo), result));
+    return result.plain();
+  }
+
+  /// Returns the number of the last recorded failure: always 0, because no member of these classes records.
+  long GetLastErrorNumber() {
+    detail::Int32 result;
+    detail::check(control_->get_GetLastErrorNumber(result));
+    return result.plain();
+  }
+
+  /// Returns the description of the last recorded failure: always "".
+  std::wstring GetLastErrorDescription() {
+    detail::Text result;
+    detail::check(control_->get_GetLastErrorDescription(result));
+    return result.plain();
+  }
+};
+
+}  // namespace ZORBOffice
+
+// For __uuidof and IID_PPV_ARGS with MinGW, as the attribute above is for the others.
+#ifdef __CRT_UUID_DECL
+__CRT_UUID_DECL(ZORBOffice::IZORBWord, 0x79397b6a, 0x4416, 0x4196, 0x88, 0x24, 0x6e, 0x59, 0x99, 0x16, 0xdc,
+    0x95)
+__CRT_UUID_DECL(ZORBOffice::IZORBOutlook, 0xa7e31fe0, 0xe2a1, 0x4b1e, 0xb3, 0x86, 0x22, 0x56, 0x40, 0x26,
+    0x55, 0x1d)
+__CRT_UUID_DECL(ZORBOffice::IOpenWriter, 0x8a83a708, 0x86a0, 0x414a, 0xa5, 0x88, 0x7d, 0xc3, 0x74, 0x93, 0x87,
+    0x29)
+#endif
+#undef ZORBOFFICE_UUID
