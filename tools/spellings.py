@@ -58,8 +58,11 @@ def identifier(text):
 
 
 def names_of_keys(item):
-    """The keys of one kind of item as pairs of name and key, each once: a key may have two rows, for reading and for writing."""
-    return list({identifier(row["key"]): row["key"] for row in item["keys"]}.items())
+    """Name, key and sentence of each key of one kind of item; a key may have a row for reading and one for writing."""
+    sentences = {}
+    for row in item["keys"]:
+        sentences.setdefault(row["key"], []).append(row["sentence"])
+    return [(identifier(key), key, " ".join(dict.fromkeys(found))) for key, found in sentences.items()]
 
 
 def guid_initializer(text):
@@ -73,10 +76,19 @@ def guid_arguments(text):
     return re.sub(r"[{}]", "", guid_initializer(text))
 
 
-def comment(text, prefix, width=110):
+def comment(text, prefix, width=120):
     """A text in lines that all begin with the prefix, which brings its own indentation."""
     return textwrap.fill(" ".join(text.split()), width, initial_indent=prefix, subsequent_indent=prefix,
                          break_long_words=False, break_on_hyphens=False)
+
+
+def described(code, sentence, beside, above):
+    """A line of code with its sentence as a comment: beside it, or above where it is too long."""
+    line = f"{code}  {beside} {sentence}"
+    if len(line) <= 128:
+        return line
+    indent = code[: len(code) - len(code.lstrip())]
+    return comment(sentence, f"{indent}{above} ") + "\n" + code
 
 
 def wrapped(code, indent, hanging=4, width=110):
@@ -100,6 +112,11 @@ def type_name(kind, language):
 def converted(member):
     """A member's arguments on their way from plain C++ values to the published types, with a comma at the end."""
     return "".join(f"detail::{parameter['type'].capitalize()}({parameter['name']}), " for parameter in member["parameters"])
+
+
+def following(member):
+    """A member's arguments in a call, each after a comma."""
+    return "".join(f", {parameter['name']}" for parameter in member["parameters"])
 
 
 def handed_on(member, language="C#"):

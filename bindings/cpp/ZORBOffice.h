@@ -212,193 +212,212 @@ constexpr const wchar_t* Waiting = L"Waiting on someone else";  ///< olTaskWaiti
 constexpr const wchar_t* Deferred = L"Deferred";  ///< olTaskDeferred (4).
 }  // namespace TaskStatus
 
+/// What GetExceptionProperty does beside reading.
+namespace ExceptionAction {
+constexpr const wchar_t* GetAppointment = L"Get Appointment";  ///< Makes the exception's appointment the current one.
+}  // namespace ExceptionAction
+
 /// Keys of GetAppointmentProperty and SetAppointmentProperty, for the current appointment.
 namespace AppointmentKey {
-constexpr const wchar_t* AllDayEvent = L"AllDayEvent";
-constexpr const wchar_t* Billing = L"Billing";
-constexpr const wchar_t* Body = L"Body";
-constexpr const wchar_t* Companies = L"Companies";
-constexpr const wchar_t* CreatedDate = L"CreatedDate";
-constexpr const wchar_t* CreatedTime = L"CreatedTime";
-constexpr const wchar_t* Duration = L"Duration";
-constexpr const wchar_t* End = L"End";
-constexpr const wchar_t* EndDate = L"EndDate";
-constexpr const wchar_t* EndTime = L"EndTime";
-constexpr const wchar_t* EntryID = L"EntryID";
-constexpr const wchar_t* Folder = L"Folder";
-constexpr const wchar_t* IsRecurring = L"IsRecurring";
-constexpr const wchar_t* Importance = L"Importance";
-constexpr const wchar_t* ModifiedDate = L"ModifiedDate";
-constexpr const wchar_t* ModifiedTime = L"ModifiedTime";
-constexpr const wchar_t* Location = L"Location";
+constexpr const wchar_t* AllDayEvent = L"AllDayEvent";  ///< Whether the appointment takes whole days.
+constexpr const wchar_t* Billing = L"Billing";  ///< Billing information.
+constexpr const wchar_t* Body = L"Body";  ///< The appointment's text.
+constexpr const wchar_t* Companies = L"Companies";  ///< The companies that have to do with the appointment.
+constexpr const wchar_t* CreatedDate = L"CreatedDate";  ///< The day on which the item was made.
+constexpr const wchar_t* CreatedTime = L"CreatedTime";  ///< The time of day at which the item was made.
+constexpr const wchar_t* Duration = L"Duration";  ///< How long it takes, in minutes.
+constexpr const wchar_t* End = L"End";  ///< When it ends.
+constexpr const wchar_t* EndDate = L"EndDate";  ///< The day on which it ends.
+constexpr const wchar_t* EndTime = L"EndTime";  ///< The time of day at which it ends.
+constexpr const wchar_t* EntryID = L"EntryID";  ///< The item's identifier, for GetItem.
+constexpr const wchar_t* Folder = L"Folder";  ///< The name of the folder that the item is in.
+constexpr const wchar_t* IsRecurring = L"IsRecurring";  ///< Whether the appointment is a series.
+constexpr const wchar_t* Importance = L"Importance";  ///< How important it is: low (0), normal (1) or high (2).
+constexpr const wchar_t* ModifiedDate = L"ModifiedDate";  ///< The day on which the item was last changed.
+constexpr const wchar_t* ModifiedTime = L"ModifiedTime";  ///< The time of day at which the item was last changed.
+constexpr const wchar_t* Location = L"Location";  ///< The place.
+/// Whether the appointment is a meeting, and in which state: an OlMeetingStatus number.
 constexpr const wchar_t* MeetingStatus = L"MeetingStatus";
-constexpr const wchar_t* MessageClass = L"MessageClass";
-constexpr const wchar_t* Mileage = L"Mileage";
+constexpr const wchar_t* MessageClass = L"MessageClass";  ///< The item's message class, as IPM.Appointment.
+constexpr const wchar_t* Mileage = L"Mileage";  ///< Miles travelled, as a text of the user's own.
+/// Whether the item is a single appointment (0), a series (1), an occurrence (2) or an exception (3).
 constexpr const wchar_t* RecurrenceState = L"RecurrenceState";
+/// How many minutes before the start the reminder comes.
 constexpr const wchar_t* ReminderMinutesBeforeStart = L"ReminderMinutesBeforeStart";
-constexpr const wchar_t* ReminderSet = L"ReminderSet";
+constexpr const wchar_t* ReminderSet = L"ReminderSet";  ///< Whether there is a reminder.
+/// Who is to see it: everyone (0), or it is personal (1), private (2) or confidential (3).
 constexpr const wchar_t* Sensitivity = L"Sensitivity";
-constexpr const wchar_t* Start = L"Start";
-constexpr const wchar_t* StartDate = L"StartDate";
-constexpr const wchar_t* StartTime = L"StartTime";
-constexpr const wchar_t* Subject = L"Subject";
+constexpr const wchar_t* Start = L"Start";  ///< When it begins.
+constexpr const wchar_t* StartDate = L"StartDate";  ///< The day on which it begins.
+constexpr const wchar_t* StartTime = L"StartTime";  ///< The time of day at which it begins.
+constexpr const wchar_t* Subject = L"Subject";  ///< The subject.
 }  // namespace AppointmentKey
 
 /// Keys of GetRecurrenceProperty and SetRecurrenceProperty, for the recurrence pattern.
 namespace RecurrenceKey {
-constexpr const wchar_t* Class = L"Class";
-constexpr const wchar_t* DayOfMonth = L"DayOfMonth";
+constexpr const wchar_t* Class = L"Class";  ///< The pattern's class: an OlObjectClass number, 28.
+constexpr const wchar_t* DayOfMonth = L"DayOfMonth";  ///< The day of the month.
+/// The days of the week, added up: Sunday 1, Monday 2, Tuesday 4, Wednesday 8, Thursday 16, Friday 32, Saturday 64.
 constexpr const wchar_t* DayOfWeekMask = L"DayOfWeekMask";
-constexpr const wchar_t* Duration = L"Duration";
-constexpr const wchar_t* EndTime = L"EndTime";
-constexpr const wchar_t* Interval = L"Interval";
-constexpr const wchar_t* Instance = L"Instance";
-constexpr const wchar_t* MonthOfYear = L"MonthOfYear";
-constexpr const wchar_t* NoEndDate = L"NoEndDate";
-constexpr const wchar_t* Occurrences = L"Occurrences";
-constexpr const wchar_t* PatternEndDate = L"PatternEndDate";
+constexpr const wchar_t* Duration = L"Duration";  ///< How long an occurrence takes, in minutes.
+constexpr const wchar_t* EndTime = L"EndTime";  ///< The time of day at which an occurrence ends.
+constexpr const wchar_t* Interval = L"Interval";  ///< Every how many days, weeks, months or years it recurs.
+constexpr const wchar_t* Instance = L"Instance";  ///< Which such day of the month: first (1) to fourth (4), or last (5).
+constexpr const wchar_t* MonthOfYear = L"MonthOfYear";  ///< The month, 1 to 12.
+constexpr const wchar_t* NoEndDate = L"NoEndDate";  ///< Whether the series has no end.
+constexpr const wchar_t* Occurrences = L"Occurrences";  ///< How many occurrences there are.
+constexpr const wchar_t* PatternEndDate = L"PatternEndDate";  ///< The day on which the series ends.
+/// The day on which the series begins; it cannot be written. Writes the day on which the series ends, as PatternEndDate
+/// does: the start stays.
 constexpr const wchar_t* PatternStartDate = L"PatternStartDate";
+/// How it recurs: daily (0), weekly (1), monthly (2), monthly by weekday (3), yearly (5) or yearly by weekday (6).
 constexpr const wchar_t* RecurrenceType = L"RecurrenceType";
-constexpr const wchar_t* StartTime = L"StartTime";
-constexpr const wchar_t* ExceptionCount = L"Exception Count";
-constexpr const wchar_t* ExceptionList = L"Exception List";
+constexpr const wchar_t* StartTime = L"StartTime";  ///< The time of day at which an occurrence begins.
+constexpr const wchar_t* ExceptionCount = L"Exception Count";  ///< How many exceptions the series has.
+constexpr const wchar_t* ExceptionList = L"Exception List";  ///< All exceptions in one text.
 }  // namespace RecurrenceKey
 
 /// Keys of GetExceptionProperty, for one exception of the recurrence pattern.
 namespace ExceptionKey {
-constexpr const wchar_t* OriginalDate = L"OriginalDate";
-constexpr const wchar_t* Deleted = L"Deleted";
+constexpr const wchar_t* OriginalDate = L"OriginalDate";  ///< The day on which the occurrence would have been.
+constexpr const wchar_t* Deleted = L"Deleted";  ///< Whether the occurrence was deleted; otherwise it was changed.
 }  // namespace ExceptionKey
 
 /// Keys of GetContactProperty and SetContactProperty, for the current contact.
 namespace ContactKey {
-constexpr const wchar_t* AssistantTelephoneNumber = L"AssistantTelephoneNumber";
-constexpr const wchar_t* Body = L"Body";
-constexpr const wchar_t* Business2TelephoneNumber = L"Business2TelephoneNumber";
-constexpr const wchar_t* BusinessAddress = L"BusinessAddress";
-constexpr const wchar_t* BusinessAddressCity = L"BusinessAddressCity";
-constexpr const wchar_t* BusinessAddressCountry = L"BusinessAddressCountry";
-constexpr const wchar_t* BusinessAddressPostalCode = L"BusinessAddressPostalCode";
-constexpr const wchar_t* BusinessAddressState = L"BusinessAddressState";
-constexpr const wchar_t* BusinessAddressStreet = L"BusinessAddressStreet";
-constexpr const wchar_t* BusinessFaxNumber = L"BusinessFaxNumber";
-constexpr const wchar_t* BusinesshomePage = L"BusinesshomePage";
-constexpr const wchar_t* BusinessTelephoneNumber = L"BusinessTelephoneNumber";
-constexpr const wchar_t* CarTelephoneNumber = L"CarTelephoneNumber";
-constexpr const wchar_t* CompanyMainTelephoneNumber = L"CompanyMainTelephoneNumber";
-constexpr const wchar_t* CompanyName = L"CompanyName";
-constexpr const wchar_t* Email1Address = L"Email1Address";
-constexpr const wchar_t* Email2Address = L"Email2Address";
-constexpr const wchar_t* Email3Address = L"Email3Address";
-constexpr const wchar_t* FirstName = L"FirstName";
-constexpr const wchar_t* FullName = L"FullName";
-constexpr const wchar_t* GovernmentIDNumber = L"GovernmentIDNumber";
-constexpr const wchar_t* Home2TelephoneNumber = L"Home2TelephoneNumber";
-constexpr const wchar_t* HomeAddress = L"HomeAddress";
-constexpr const wchar_t* HomeAddressCity = L"HomeAddressCity";
-constexpr const wchar_t* HomeAddressCountry = L"HomeAddressCountry";
-constexpr const wchar_t* HomeAddressPostalCode = L"HomeAddressPostalCode";
-constexpr const wchar_t* HomeAddressState = L"HomeAddressState";
-constexpr const wchar_t* HomeAddressStreet = L"HomeAddressStreet";
-constexpr const wchar_t* HomeFaxNumber = L"HomeFaxNumber";
-constexpr const wchar_t* HomeTelephoneNumber = L"HomeTelephoneNumber";
-constexpr const wchar_t* JobTitle = L"JobTitle";
-constexpr const wchar_t* MailingAddress = L"MailingAddress";
-constexpr const wchar_t* MailingAddressCity = L"MailingAddressCity";
-constexpr const wchar_t* MailingAddressCountry = L"MailingAddressCountry";
+constexpr const wchar_t* AssistantTelephoneNumber = L"AssistantTelephoneNumber";  ///< Telephone number of the assistant.
+constexpr const wchar_t* Body = L"Body";  ///< Notes on the contact.
+constexpr const wchar_t* Business2TelephoneNumber = L"Business2TelephoneNumber";  ///< Second telephone number at work.
+constexpr const wchar_t* BusinessAddress = L"BusinessAddress";  ///< Address at work, whole.
+constexpr const wchar_t* BusinessAddressCity = L"BusinessAddressCity";  ///< City of the address at work.
+constexpr const wchar_t* BusinessAddressCountry = L"BusinessAddressCountry";  ///< Country of the address at work.
+constexpr const wchar_t* BusinessAddressPostalCode = L"BusinessAddressPostalCode";  ///< Postal code of the address at work.
+constexpr const wchar_t* BusinessAddressState = L"BusinessAddressState";  ///< State of the address at work.
+constexpr const wchar_t* BusinessAddressStreet = L"BusinessAddressStreet";  ///< Street of the address at work.
+constexpr const wchar_t* BusinessFaxNumber = L"BusinessFaxNumber";  ///< Fax number at work.
+constexpr const wchar_t* BusinesshomePage = L"BusinesshomePage";  ///< Web page of the business; the key has a small h.
+constexpr const wchar_t* BusinessTelephoneNumber = L"BusinessTelephoneNumber";  ///< Telephone number at work.
+constexpr const wchar_t* CarTelephoneNumber = L"CarTelephoneNumber";  ///< Telephone number in the car.
+constexpr const wchar_t* CompanyMainTelephoneNumber = L"CompanyMainTelephoneNumber";  ///< Main telephone number of the company.
+constexpr const wchar_t* CompanyName = L"CompanyName";  ///< Name of the company.
+constexpr const wchar_t* Email1Address = L"Email1Address";  ///< First mail address.
+constexpr const wchar_t* Email2Address = L"Email2Address";  ///< Second mail address.
+constexpr const wchar_t* Email3Address = L"Email3Address";  ///< Third mail address.
+constexpr const wchar_t* FirstName = L"FirstName";  ///< First name.
+constexpr const wchar_t* FullName = L"FullName";  ///< Whole name.
+constexpr const wchar_t* GovernmentIDNumber = L"GovernmentIDNumber";  ///< Number of an identity document.
+constexpr const wchar_t* Home2TelephoneNumber = L"Home2TelephoneNumber";  ///< Second telephone number at home.
+constexpr const wchar_t* HomeAddress = L"HomeAddress";  ///< Address at home, whole.
+constexpr const wchar_t* HomeAddressCity = L"HomeAddressCity";  ///< City of the address at home.
+constexpr const wchar_t* HomeAddressCountry = L"HomeAddressCountry";  ///< Country of the address at home.
+constexpr const wchar_t* HomeAddressPostalCode = L"HomeAddressPostalCode";  ///< Postal code of the address at home.
+constexpr const wchar_t* HomeAddressState = L"HomeAddressState";  ///< State of the address at home.
+constexpr const wchar_t* HomeAddressStreet = L"HomeAddressStreet";  ///< Street of the address at home.
+constexpr const wchar_t* HomeFaxNumber = L"HomeFaxNumber";  ///< Fax number at home.
+constexpr const wchar_t* HomeTelephoneNumber = L"HomeTelephoneNumber";  ///< Telephone number at home.
+constexpr const wchar_t* JobTitle = L"JobTitle";  ///< Job title.
+constexpr const wchar_t* MailingAddress = L"MailingAddress";  ///< The address that mail goes to, whole.
+constexpr const wchar_t* MailingAddressCity = L"MailingAddressCity";  ///< City of the address that mail goes to.
+constexpr const wchar_t* MailingAddressCountry = L"MailingAddressCountry";  ///< Country of the address that mail goes to.
+/// Postal code of the address that mail goes to.
 constexpr const wchar_t* MailingAddressPostalCode = L"MailingAddressPostalCode";
-constexpr const wchar_t* MailingAddressState = L"MailingAddressState";
-constexpr const wchar_t* MailingAddressStreet = L"MailingAddressStreet";
-constexpr const wchar_t* MobileTelephoneNumber = L"MobileTelephoneNumber";
-constexpr const wchar_t* Nickname = L"Nickname";
-constexpr const wchar_t* OtherAddress = L"OtherAddress";
-constexpr const wchar_t* OtherAddressCity = L"OtherAddressCity";
-constexpr const wchar_t* OtherAddressCountry = L"OtherAddressCountry";
-constexpr const wchar_t* OtherAddressPostalCode = L"OtherAddressPostalCode";
-constexpr const wchar_t* OtherAddressState = L"OtherAddressState";
-constexpr const wchar_t* OtherAddressStreet = L"OtherAddressStreet";
-constexpr const wchar_t* OtherFaxNumber = L"OtherFaxNumber";
-constexpr const wchar_t* OtherTelephoneNumber = L"OtherTelephoneNumber";
-constexpr const wchar_t* PrimaryTelephoneNumber = L"PrimaryTelephoneNumber";
-constexpr const wchar_t* RadioTelephoneNumber = L"RadioTelephoneNumber";
-constexpr const wchar_t* Title = L"Title";
-constexpr const wchar_t* WebPage = L"WebPage";
-constexpr const wchar_t* EntryID = L"EntryID";
-constexpr const wchar_t* Folder = L"Folder";
-constexpr const wchar_t* ModifiedDate = L"ModifiedDate";
-constexpr const wchar_t* ModifiedTime = L"ModifiedTime";
+constexpr const wchar_t* MailingAddressState = L"MailingAddressState";  ///< State of the address that mail goes to.
+constexpr const wchar_t* MailingAddressStreet = L"MailingAddressStreet";  ///< Street of the address that mail goes to.
+constexpr const wchar_t* MobileTelephoneNumber = L"MobileTelephoneNumber";  ///< Number of the mobile telephone.
+constexpr const wchar_t* Nickname = L"Nickname";  ///< Nickname.
+constexpr const wchar_t* OtherAddress = L"OtherAddress";  ///< Another address, whole.
+constexpr const wchar_t* OtherAddressCity = L"OtherAddressCity";  ///< City of the other address.
+constexpr const wchar_t* OtherAddressCountry = L"OtherAddressCountry";  ///< Country of the other address.
+constexpr const wchar_t* OtherAddressPostalCode = L"OtherAddressPostalCode";  ///< Postal code of the other address.
+constexpr const wchar_t* OtherAddressState = L"OtherAddressState";  ///< State of the other address.
+constexpr const wchar_t* OtherAddressStreet = L"OtherAddressStreet";  ///< Street of the other address.
+constexpr const wchar_t* OtherFaxNumber = L"OtherFaxNumber";  ///< Another fax number.
+constexpr const wchar_t* OtherTelephoneNumber = L"OtherTelephoneNumber";  ///< Another telephone number.
+constexpr const wchar_t* PrimaryTelephoneNumber = L"PrimaryTelephoneNumber";  ///< The telephone number to try first.
+constexpr const wchar_t* RadioTelephoneNumber = L"RadioTelephoneNumber";  ///< Number of the radio telephone.
+constexpr const wchar_t* Title = L"Title";  ///< Title before the name, as Dr.
+constexpr const wchar_t* WebPage = L"WebPage";  ///< Web page.
+constexpr const wchar_t* EntryID = L"EntryID";  ///< The item's identifier, for GetItem.
+constexpr const wchar_t* Folder = L"Folder";  ///< The name of the folder that the item is in.
+constexpr const wchar_t* ModifiedDate = L"ModifiedDate";  ///< The day on which the item was last changed.
+constexpr const wchar_t* ModifiedTime = L"ModifiedTime";  ///< The time of day at which the item was last changed.
+/// Which address mail goes to: none (0), home (1), work (2) or the other (3).
 constexpr const wchar_t* SelectedMailingAddress = L"SelectedMailingAddress";
+/// Nine telephone numbers in one text, without those of mobile and radio telephones.
 constexpr const wchar_t* AllTelephoneNumbers = L"AllTelephoneNumbers";
-constexpr const wchar_t* AllFaxNumbers = L"AllFaxNumbers";
-constexpr const wchar_t* AllEmailAddresses = L"AllEmailAddresses";
+constexpr const wchar_t* AllFaxNumbers = L"AllFaxNumbers";  ///< The three fax numbers in one text.
+constexpr const wchar_t* AllEmailAddresses = L"AllEmailAddresses";  ///< The three mail addresses in one text.
 }  // namespace ContactKey
 
 /// Keys of GetTaskProperty and SetTaskProperty, for the current task.
 namespace TaskKey {
-constexpr const wchar_t* Body = L"Body";
-constexpr const wchar_t* CreationDate = L"CreationDate";
-constexpr const wchar_t* CreationTime = L"CreationTime";
-constexpr const wchar_t* DueDate = L"DueDate";
-constexpr const wchar_t* EntryID = L"EntryID";
-constexpr const wchar_t* Folder = L"Folder";
-constexpr const wchar_t* ModifiedDate = L"ModifiedDate";
-constexpr const wchar_t* ModifiedTime = L"ModifiedTime";
-constexpr const wchar_t* PercentComplete = L"PercentComplete";
-constexpr const wchar_t* Priority = L"Priority";
-constexpr const wchar_t* Reminder = L"Reminder";
+constexpr const wchar_t* Body = L"Body";  ///< The task's text.
+constexpr const wchar_t* CreationDate = L"CreationDate";  ///< The day on which the item was made.
+constexpr const wchar_t* CreationTime = L"CreationTime";  ///< The time of day at which the item was made.
+constexpr const wchar_t* DueDate = L"DueDate";  ///< The day on which the task is due.
+constexpr const wchar_t* EntryID = L"EntryID";  ///< The item's identifier, for GetItem.
+constexpr const wchar_t* Folder = L"Folder";  ///< The name of the folder that the item is in.
+constexpr const wchar_t* ModifiedDate = L"ModifiedDate";  ///< The day on which the item was last changed.
+constexpr const wchar_t* ModifiedTime = L"ModifiedTime";  ///< The time of day at which the item was last changed.
+constexpr const wchar_t* PercentComplete = L"PercentComplete";  ///< How much of it is done, 0 to 100.
+constexpr const wchar_t* Priority = L"Priority";  ///< How important it is: low (0), normal (1) or high (2).
+constexpr const wchar_t* Reminder = L"Reminder";  ///< Whether there is a reminder.
+/// The day of the reminder; writing sets its time too, but switches no reminder on.
 constexpr const wchar_t* ReminderDate = L"ReminderDate";
-constexpr const wchar_t* ReminderTime = L"ReminderTime";
-constexpr const wchar_t* Subject = L"Subject";
-constexpr const wchar_t* StartDate = L"StartDate";
-constexpr const wchar_t* Status = L"Status";
+constexpr const wchar_t* ReminderTime = L"ReminderTime";  ///< The time of day of the reminder.
+constexpr const wchar_t* Subject = L"Subject";  ///< The subject.
+constexpr const wchar_t* StartDate = L"StartDate";  ///< The day on which the task begins.
+constexpr const wchar_t* Status = L"Status";  ///< How far the task is, in English words.
 }  // namespace TaskKey
 
-/// Keys of GetEmailProperty, for the current e-mail.
+/// Keys of GetEmailProperty, for the current mail.
 namespace EmailKey {
-constexpr const wchar_t* AttachmentCount = L"Attachment Count";
-constexpr const wchar_t* Attachments = L"Attachments";
-constexpr const wchar_t* BCC = L"BCC";
-constexpr const wchar_t* Body = L"Body";
-constexpr const wchar_t* CC = L"CC";
-constexpr const wchar_t* Class = L"Class";
-constexpr const wchar_t* EntryID = L"EntryID";
-constexpr const wchar_t* HTMLBody = L"HTMLBody";
-constexpr const wchar_t* Importance = L"Importance";
-constexpr const wchar_t* Parent = L"Parent";
-constexpr const wchar_t* ReceivedDate = L"ReceivedDate";
-constexpr const wchar_t* ReceivedTime = L"ReceivedTime";
-constexpr const wchar_t* Recipients = L"Recipients";
-constexpr const wchar_t* SenderEmailAddress = L"SenderEmailAddress";
-constexpr const wchar_t* SenderName = L"SenderName";
+constexpr const wchar_t* AttachmentCount = L"Attachment Count";  ///< How many attachments there are.
+constexpr const wchar_t* Attachments = L"Attachments";  ///< The names of the attachments.
+constexpr const wchar_t* BCC = L"BCC";  ///< Who gets a copy unseen by the others.
+constexpr const wchar_t* Body = L"Body";  ///< The mail's text without formatting.
+constexpr const wchar_t* CC = L"CC";  ///< Who gets a copy.
+constexpr const wchar_t* Class = L"Class";  ///< The item's class: an OlObjectClass number, 43 for a mail.
+constexpr const wchar_t* EntryID = L"EntryID";  ///< The item's identifier, for GetItem.
+constexpr const wchar_t* HTMLBody = L"HTMLBody";  ///< The mail's text as HTML.
+constexpr const wchar_t* Importance = L"Importance";  ///< How important it is: low (0), normal (1) or high (2).
+constexpr const wchar_t* Parent = L"Parent";  ///< The name of the folder that the item is in.
+constexpr const wchar_t* ReceivedDate = L"ReceivedDate";  ///< The day on which the mail came.
+constexpr const wchar_t* ReceivedTime = L"ReceivedTime";  ///< The time of day at which the mail came.
+constexpr const wchar_t* Recipients = L"Recipients";  ///< The names of all recipients.
+constexpr const wchar_t* SenderEmailAddress = L"SenderEmailAddress";  ///< The sender's mail address.
+constexpr const wchar_t* SenderName = L"SenderName";  ///< The sender's name.
+/// Who is to see it: everyone (0), or it is personal (1), private (2) or confidential (3).
 constexpr const wchar_t* Sensitivity = L"Sensitivity";
-constexpr const wchar_t* Size = L"Size";
-constexpr const wchar_t* Subject = L"Subject";
-constexpr const wchar_t* To = L"To";
+constexpr const wchar_t* Size = L"Size";  ///< The size in bytes.
+constexpr const wchar_t* Subject = L"Subject";  ///< The subject.
+constexpr const wchar_t* To = L"To";  ///< The recipients.
 }  // namespace EmailKey
 
 /// Keys of GetNoteProperty and SetNoteProperty, for the current note.
 namespace NoteKey {
-constexpr const wchar_t* Body = L"Body";
-constexpr const wchar_t* Categories = L"Categories";
-constexpr const wchar_t* Class = L"Class";
-constexpr const wchar_t* Color = L"Color";
-constexpr const wchar_t* CreationTime = L"CreationTime";
-constexpr const wchar_t* DownloadState = L"DownloadState";
-constexpr const wchar_t* EntryID = L"EntryID";
-constexpr const wchar_t* Folder = L"Folder";
-constexpr const wchar_t* Height = L"Height";
-constexpr const wchar_t* IsConflict = L"IsConflict";
-constexpr const wchar_t* ModifiedDate = L"ModifiedDate";
-constexpr const wchar_t* ModifiedTime = L"ModifiedTime";
-constexpr const wchar_t* Left = L"Left";
+constexpr const wchar_t* Body = L"Body";  ///< The note's text, its first line being the subject.
+constexpr const wchar_t* Categories = L"Categories";  ///< The note's categories, separated as the user's settings have it.
+constexpr const wchar_t* Class = L"Class";  ///< The item's class: an OlObjectClass number, 44 for a note.
+constexpr const wchar_t* Color = L"Color";  ///< The colour: blue (0), green (1), pink (2), yellow (3) or white (4).
+constexpr const wchar_t* CreationTime = L"CreationTime";  ///< The time of day at which the item was made.
+constexpr const wchar_t* DownloadState = L"DownloadState";  ///< Whether only the header is here (0) or the whole item (1).
+constexpr const wchar_t* EntryID = L"EntryID";  ///< The item's identifier, for GetItem.
+constexpr const wchar_t* Folder = L"Folder";  ///< The name of the folder that the item is in.
+constexpr const wchar_t* Height = L"Height";  ///< Height of the note's window, in pixels.
+constexpr const wchar_t* IsConflict = L"IsConflict";  ///< Whether the item is in conflict with another copy.
+constexpr const wchar_t* ModifiedDate = L"ModifiedDate";  ///< The day on which the item was last changed.
+constexpr const wchar_t* ModifiedTime = L"ModifiedTime";  ///< The time of day at which the item was last changed.
+constexpr const wchar_t* Left = L"Left";  ///< Distance of the note's window from the left of the screen, in pixels.
+/// Whether the item is to be fetched: an OlRemoteStatus number.
 constexpr const wchar_t* MarkForDownload = L"MarkForDownload";
-constexpr const wchar_t* MessageClass = L"MessageClass";
-constexpr const wchar_t* Parent = L"Parent";
-constexpr const wchar_t* Saved = L"Saved";
-constexpr const wchar_t* Size = L"Size";
-constexpr const wchar_t* Subject = L"Subject";
-constexpr const wchar_t* Top = L"Top";
-constexpr const wchar_t* Width = L"Width";
+constexpr const wchar_t* MessageClass = L"MessageClass";  ///< The item's message class, IPM.StickyNote.
+constexpr const wchar_t* Parent = L"Parent";  ///< The name of the folder that the item is in, as Folder.
+constexpr const wchar_t* Saved = L"Saved";  ///< Whether nothing was changed since the item was saved.
+constexpr const wchar_t* Size = L"Size";  ///< The size in bytes.
+constexpr const wchar_t* Subject = L"Subject";  ///< The subject: the text's first line.
+constexpr const wchar_t* Top = L"Top";  ///< Distance of the note's window from the top of the screen, in pixels.
+constexpr const wchar_t* Width = L"Width";  ///< Width of the note's window, in pixels.
 }  // namespace NoteKey
 
 // The interfaces, for calls by vtable. What the members do stands with the classes below.
@@ -717,7 +736,7 @@ class Control {
 
 }  // namespace detail
 
-/// Drives Microsoft Word.
+/// Drives Microsoft Word: opens and writes documents, searches them, prints and saves them.
 class ZORBWord : public detail::Control<IZORBWord> {
  public:
   /// Creates the control.
@@ -725,66 +744,81 @@ class ZORBWord : public detail::Control<IZORBWord> {
   /// Takes one that exists, such as a form's.
   explicit ZORBWord(IZORBWord* control) : Control(control) {}
 
-  /// Both classes publish the same forty members in the same slots; early-bound hosts rely on it.
+  /// Starts a new Word and holds it.
+  /// @param Template True places Word's window on the screen; False switches automatic numbering off.
   bool Start(bool Template = false) {
     detail::Byte result;
     detail::check(control_->get_Start(detail::Flag(Template), result));
     return result.plain();
   }
 
-  /// Shows or hides the application (IsVisible: flag) and activates it.
+  /// Shows or hides Word, and brings it to the front.
+  /// @param IsVisible True shows it, False hides it.
   bool SetVisible(bool IsVisible) {
     detail::Byte result;
     detail::check(control_->get_SetVisible(detail::Flag(IsVisible), result));
     return result.plain();
   }
 
-  /// Activates the application, whatever IsActive (flag) says.
+  /// Brings Word to the front.
+  /// @param IsActive Has no effect.
   bool SetActive(bool IsActive) {
     detail::Byte result;
     detail::check(control_->get_SetActive(detail::Flag(IsActive), result));
     return result.plain();
   }
 
-  /// Opens the file Doc (path) and makes it the active document.
+  /// Opens a document and makes it the active one.
+  /// @param Doc Path of the document.
   bool OpenDoc(const std::wstring& Doc) {
     detail::Byte result;
     detail::check(control_->get_OpenDoc(detail::Text(Doc), result));
     return result.plain();
   }
 
-  /// Creates a document from the template Doc (path, optional, default "": the normal template) and makes it
-  /// the active document; the earlier one stays when that fails.
+  /// Makes a new document from a template, and makes it the active one.
+  /// @param Doc Path of the template; an empty text means the normal one.
   bool CreateDoc(const std::wstring& Doc = L"") {
     detail::Byte result;
     detail::check(control_->get_CreateDoc(detail::Text(Doc), result));
     return result.plain();
   }
 
-  /// Types Text at the selection.
+  /// Types a text at the selection.
+  /// @param Text The text to type.
   bool SendText(const std::wstring& Text) {
     detail::Byte result;
     detail::check(control_->get_SendText(detail::Text(Text), result));
     return result.plain();
   }
 
-  /// Reads the document's text from character StartPos to EndPos, counted from 0. A start of 0 or less with
-  /// an end means 1, so the first character is left out; an end of 0 or less means the text's length; both 0
-  /// or less read all sections' texts, joined.
+  /// Reads the document's text, or a part of it.
+  /// @param StartPos First character, counted from 0; both positions 0 mean the whole text.
+  /// @param EndPos Character after the last one; 0 means the end.
   std::wstring ReadText(long StartPos, long EndPos) {
     detail::Text result;
     detail::check(control_->get_ReadText(detail::Int32(StartPos), detail::Int32(EndPos), result));
     return result.plain();
   }
 
-  /// Switches the redrawing of the application's windows (Update: flag).
+  /// Switches the redrawing of Word's windows on or off.
+  /// @param Update True redraws, False does not.
   bool SetScreenUpdating(bool Update) {
     detail::Byte result;
     detail::check(control_->get_SetScreenUpdating(detail::Flag(Update), result));
     return result.plain();
   }
 
-  /// Finds SearchString and selects it.
+  /// Finds a text and selects it.
+  /// @param SearchString The text to find.
+  /// @param WrapAction What to do at the end of the text: stop (0), go on at its other end (1), or ask (2).
+  /// @param SearchForward True searches towards the end, False towards the start.
+  /// @param BeginAtTop True moves to the start of the document before it searches.
+  /// @param MatchCase True tells capital letters from small ones.
+  /// @param MatchWholeWord True finds whole words only.
+  /// @param MatchWildcards True reads the text that is searched for as a pattern.
+  /// @param MatchSoundsLike True also finds words that sound alike.
+  /// @param MatchAllWordForms True also finds the other forms of the words.
   bool Search(const std::wstring& SearchString, WdFindWrap WrapAction = wdFindContinue,
       bool SearchForward = true, bool BeginAtTop = false, bool MatchCase = false, bool MatchWholeWord = false,
       bool MatchWildcards = false, bool MatchSoundsLike = false, bool MatchAllWordForms = false) {
@@ -796,20 +830,31 @@ class ZORBWord : public detail::Control<IZORBWord> {
     return result.plain();
   }
 
-  /// Returns 1 when the selection is in a table.
+  /// Tells whether the selection is in a table.
   bool InTable() {
     detail::Byte result;
     detail::check(control_->get_InTable(result));
     return result.plain();
   }
 
-  /// Selects the row of the table in which the selection is.
+  /// Selects the table row that the selection is in.
   void SelectRow() {
     detail::Variant result;
     detail::check(control_->SelectRow(result));
   }
 
-  /// Finds SearchString from the selection on and replaces it by ReplaceString.
+  /// Finds a text from the selection on and replaces it.
+  /// @param SearchString The text to find.
+  /// @param ReplaceString The text to put in its place.
+  /// @param WrapAction What to do at the end of the text: stop (0), go on at its other end (1), or ask (2).
+  /// @param SearchForward True searches towards the end, False towards the start.
+  /// @param BeginAtTop Has no effect.
+  /// @param MatchCase True tells capital letters from small ones.
+  /// @param MatchWholeWord True finds whole words only.
+  /// @param MatchWildcards True reads the text that is searched for as a pattern.
+  /// @param MatchSoundsLike True also finds words that sound alike.
+  /// @param MatchAllWordForms True also finds the other forms of the words.
+  /// @param ReplaceOption How many to replace: none (0), the first one (1), or all (2).
   bool Replace(const std::wstring& SearchString, const std::wstring& ReplaceString,
       WdFindWrap WrapAction = wdFindContinue, bool SearchForward = true, bool BeginAtTop = true,
       bool MatchCase = false, bool MatchWholeWord = false, bool MatchWildcards = false,
@@ -822,14 +867,19 @@ class ZORBWord : public detail::Control<IZORBWord> {
     return result.plain();
   }
 
-  /// Returns the number of sections of the active document.
+  /// Counts the sections of the active document.
   long NumberOfSections() {
     detail::Int32 result;
     detail::check(control_->get_NumberOfSections(result));
     return result.plain();
   }
 
-  /// Reads a header's (IsHeader true) or footer's text of Section (counted from 1).
+  /// Reads the text of a header or footer, or a part of it.
+  /// @param Section The section, counted from 1.
+  /// @param IsHeader True means the header, False the footer.
+  /// @param HeaderFooterType Of which pages: all others (1), the first (2), or even ones (3).
+  /// @param StartPos First character, counted from 0; both positions 0 mean the whole text.
+  /// @param EndPos Character after the last one; 0 means the end.
   std::wstring ReadHeaderFooterText(long Section, bool IsHeader, WdHeaderFooterIndex HeaderFooterType,
       long StartPos, long EndPos) {
     detail::Text result;
@@ -838,8 +888,12 @@ class ZORBWord : public detail::Control<IZORBWord> {
     return result.plain();
   }
 
-  /// Copies headers, footers and the normal style's font, each if chosen, from SourceTemplate to DestTemplate
-  /// (paths; empty or "Normal": the application's template), and saves the latter.
+  /// Copies headers, footers and the normal font from one document to another, and saves that.
+  /// @param SourceTemplate Path of the document to copy from; an empty text means the normal template.
+  /// @param DestTemplate Path of the document to change; an empty text means the normal template.
+  /// @param ApplyHeader True copies the headers.
+  /// @param ApplyFooter True copies the footers.
+  /// @param ApplyFont True copies the normal style's font.
   bool SetHeaderFooter(const std::wstring& SourceTemplate, const std::wstring& DestTemplate, bool ApplyHeader,
       bool ApplyFooter, bool ApplyFont) {
     detail::Byte result;
@@ -848,8 +902,21 @@ class ZORBWord : public detail::Control<IZORBWord> {
     return result.plain();
   }
 
-  /// Replace, within one header or footer, named as in ReadHeaderFooterText; in one that does not exist
-  /// nothing is found.
+  /// Finds a text in a header or footer and replaces it.
+  /// @param Section The section, counted from 1.
+  /// @param IsHeader True means the header, False the footer.
+  /// @param HeaderFooterType Of which pages: all others (1), the first (2), or even ones (3).
+  /// @param SearchString The text to find.
+  /// @param ReplaceString The text to put in its place.
+  /// @param WrapAction What to do at the end of the text: stop (0), go on at its other end (1), or ask (2).
+  /// @param SearchForward True searches towards the end, False towards the start.
+  /// @param BeginAtTop Has no effect.
+  /// @param MatchCase True tells capital letters from small ones.
+  /// @param MatchWholeWord True finds whole words only.
+  /// @param MatchWildcards True reads the text that is searched for as a pattern.
+  /// @param MatchSoundsLike True also finds words that sound alike.
+  /// @param MatchAllWordForms True also finds the other forms of the words.
+  /// @param ReplaceOption How many to replace: none (0), the first one (1), or all (2).
   bool ReplaceHeaderFooter(long Section, bool IsHeader, WdHeaderFooterIndex HeaderFooterType,
       const std::wstring& SearchString, const std::wstring& ReplaceString,
       WdFindWrap WrapAction = wdFindContinue, bool SearchForward = true, bool BeginAtTop = true,
@@ -864,15 +931,15 @@ class ZORBWord : public detail::Control<IZORBWord> {
     return result.plain();
   }
 
-  /// Returns the number of cells of the selection's first row.
+  /// Counts the cells of the selection's first table row.
   long CellCount() {
     detail::Int32 result;
     detail::check(control_->get_CellCount(result));
     return result.plain();
   }
 
-  /// Returns the text of cell CellId (counted from 1) of the selection's first row, its end-of-cell mark
-  /// included.
+  /// Reads a cell of the selection's first table row.
+  /// @param CellId The cell, counted from 1.
   std::wstring CellText(long CellId) {
     detail::Text result;
     detail::check(control_->get_CellText(detail::Int32(CellId), result));
@@ -891,7 +958,7 @@ class ZORBWord : public detail::Control<IZORBWord> {
     detail::check(control_->SelectParagraph(result));
   }
 
-  /// Returns the selected text, "" on failure.
+  /// Reads the selected text.
   std::wstring SelectionText() {
     detail::Text result;
     detail::check(control_->get_SelectionText(result));
@@ -904,14 +971,20 @@ class ZORBWord : public detail::Control<IZORBWord> {
     detail::check(control_->Paste(result));
   }
 
-  /// Moves the insertion point left by Units units.
+  /// Moves the insertion point to the left.
+  /// @param Units How many units to move.
+  /// @param Unit By what to move: a WdUnits number.
+  /// @param Selecting Whether to extend the selection (1) or only to move (0).
   void CursorLeft(short Units, WdUnits Unit = wdCharacter, WdMovementType Selecting = wdMove) {
     detail::Variant result;
     detail::check(control_->CursorLeft(detail::Int16(Units), detail::Int16(Unit), detail::Variant(Selecting),
         result));
   }
 
-  /// CursorLeft to the right.
+  /// Moves the insertion point to the right.
+  /// @param Units How many units to move.
+  /// @param Unit By what to move: a WdUnits number.
+  /// @param Selecting Whether to extend the selection (1) or only to move (0).
   void CursorRight(short Units, WdUnits Unit = wdCharacter, WdMovementType Selecting = wdMove) {
     detail::Variant result;
     detail::check(control_->CursorRight(detail::Int16(Units), detail::Int16(Unit), detail::Variant(Selecting),
@@ -924,13 +997,13 @@ class ZORBWord : public detail::Control<IZORBWord> {
     detail::check(control_->CursorStartOfParagraph(result));
   }
 
-  /// Moves the insertion point to the start of its cell.
+  /// Moves the insertion point to the start of its table cell.
   void CursorStartOfCell() {
     detail::Variant result;
     detail::check(control_->CursorStartOfCell(result));
   }
 
-  /// Moves the insertion point to the end of its cell.
+  /// Moves the insertion point to the end of its table cell.
   void CursorEndOfCell() {
     detail::Variant result;
     detail::check(control_->CursorEndOfCell(result));
@@ -942,7 +1015,9 @@ class ZORBWord : public detail::Control<IZORBWord> {
     detail::check(control_->CursorEndOfParagraph(result));
   }
 
-  /// Collapses the selection and moves it by Units units of Unit (a wdUnits value).
+  /// Collapses the selection and moves it.
+  /// @param Unit By what to move: a WdUnits number.
+  /// @param Units How many units to move; a negative number moves back.
   void Move(WdUnits Unit, short Units) {
     detail::Variant result;
     detail::check(control_->Move(detail::Int16(Unit), detail::Int16(Units), result));
@@ -954,68 +1029,73 @@ class ZORBWord : public detail::Control<IZORBWord> {
     detail::check(control_->FinaliseDoc(result));
   }
 
-  /// Saves the document, as Docname (path, optional) when that is not empty.
+  /// Saves the document, under a new name where one is given.
+  /// @param Docname Path to save as; an empty text keeps the name.
   void SaveDoc(const std::wstring& Docname = L"") {
     detail::Variant result;
     detail::check(control_->SaveDoc(detail::Text(Docname), result));
   }
 
-  /// Prints the document to the first installed printer whose name contains "PDF", in capitals, and returns
-  /// true; false when there is none.
+  /// Prints the document to the first printer whose name has PDF in it.
   bool SaveDocAsPDF() {
     detail::Flag result;
     detail::check(control_->SaveDocAsPDF(result));
     return result.plain();
   }
 
-  /// Closes the document and lets go of it.
+  /// Closes the document.
+  /// @param SaveOption What to do with changes: drop them (0), save them (-1), or ask (-2).
   void CloseDoc(WdSaveOptions SaveOption = wdDoNotSaveChanges) {
     detail::Variant result;
     detail::check(control_->CloseDoc(detail::Int16(SaveOption), result));
   }
 
-  /// Quits the application and lets go of it: with Force (flag, optional) always, otherwise only when no
-  /// document is open.
+  /// Quits the application.
+  /// @param Force True quits also while documents are open.
   void StopWord(bool Force = false) {
     detail::Variant result;
     detail::check(control_->StopWord(detail::Flag(Force), result));
   }
 
-  /// Prints Copies copies of the document, then lets the host's pending window messages run once.
+  /// Prints the document.
+  /// @param Copies How many copies.
+  /// @param Background Has no effect.
   void PrintDoc(short Copies, bool Background = false) {
     detail::Variant result;
     detail::check(control_->PrintDoc(detail::Int16(Copies), detail::Flag(Background), result));
   }
 
-  /// Returns how many documents are being printed or saved in the background, 0 when none.
+  /// Counts the documents that are being printed or saved in the background.
   short IsPrinting() {
     detail::Int16 result;
     detail::check(control_->IsPrinting(result));
     return result.plain();
   }
 
-  /// Returns the application's default folder PathId (a wdDefaultFilePath value), "" on failure.
+  /// Reads one of the default folders.
+  /// @param PathId Which folder: a WdDefaultFilePath number.
   std::wstring GetDefaultPaths(WdDefaultFilePath PathId) {
     detail::Text result;
     detail::check(control_->GetDefaultPaths(detail::Int16(PathId), result));
     return result.plain();
   }
 
-  /// Moves the insertion point to line LineNo, counted from 1; returns true, or false on failure.
+  /// Moves the insertion point to a line.
+  /// @param LineNo The line, counted from 1.
   bool GotoLine(short LineNo) {
     detail::Flag result;
     detail::check(control_->GotoLine(detail::Int16(LineNo), result));
     return result.plain();
   }
 
-  /// Returns the number of the last recorded failure: always 0, because no member of these classes records.
+  /// Reads the number of the last recorded failure: always 0.
   long GetLastErrorNumber() {
     detail::Int32 result;
     detail::check(control_->get_GetLastErrorNumber(result));
     return result.plain();
   }
 
-  /// Returns the description of the last recorded failure: always "".
+  /// Reads the text of the last recorded failure: always empty.
   std::wstring GetLastErrorDescription() {
     detail::Text result;
     detail::check(control_->get_GetLastErrorDescription(result));
@@ -1023,7 +1103,7 @@ class ZORBWord : public detail::Control<IZORBWord> {
   }
 };
 
-/// Drives Microsoft Outlook.
+/// Drives Microsoft Outlook: walks, reads and writes its items, and makes mails.
 class ZORBOutlook : public detail::Control<IZORBOutlook> {
  public:
   /// Creates the control.
@@ -1031,21 +1111,31 @@ class ZORBOutlook : public detail::Control<IZORBOutlook> {
   /// Takes one that exists, such as a form's.
   explicit ZORBOutlook(IZORBOutlook* control) : Control(control) {}
 
-  /// All parameters are passed by value, but for NewEmail's.
+  /// Starts a session with Outlook.
   bool StartOutlook() {
     detail::Flag result;
     detail::check(control_->StartOutlook(result));
     return result.plain();
   }
 
-  /// Ends the work; quits Outlook only when Force (optional, default false) is true.
+  /// Ends the work, and quits Outlook where that is asked for.
+  /// @param Force True quits Outlook, the user's own too.
   bool StopOutlook(bool Force = false) {
     detail::Flag result;
     detail::check(control_->StopOutlook(detail::Flag(Force), result));
     return result.plain();
   }
 
-  /// Composes one mail, and sends (AutoSend) or shows it.
+  /// Makes one mail from its parts, and sends it or shows it; always answers False.
+  /// @param Template Has no effect.
+  /// @param ToAddress Addresses of the recipients, separated by semicolons.
+  /// @param CCAddress Addresses of those who get a copy.
+  /// @param BCCAddress Addresses of those who get a copy unseen by the others.
+  /// @param Subject The subject.
+  /// @param Content The mail's text.
+  /// @param UseHTML True takes the text for HTML.
+  /// @param AutoSend True sends the mail and quits Outlook; False shows it.
+  /// @param Attachment Paths of files, separated by semicolons; the variable is used up, so hand over a copy.
   bool NewEmail(const std::wstring& Template, const std::wstring& ToAddress, const std::wstring& CCAddress,
       const std::wstring& BCCAddress, const std::wstring& Subject, const std::wstring& Content, bool UseHTML,
       bool AutoSend, const std::wstring& Attachment) {
@@ -1056,22 +1146,25 @@ class ZORBOutlook : public detail::Control<IZORBOutlook> {
     return result.plain();
   }
 
-  /// Shows the current item of the entry type in Outlook's own window.
+  /// Shows the current item in Outlook's own window.
+  /// @param EntryType The kind of item: Appointment, Contact, Note, Task or Email.
   bool OpenItem(const std::wstring& EntryType) {
     detail::Flag result;
     detail::check(control_->OpenItem(detail::Text(EntryType), result));
     return result.plain();
   }
 
-  /// Fills the entry type's collection from its default folder, restricted by Condition unless that is empty,
-  /// sorted.
+  /// Takes the items of the entry type's default folder, those that a condition names, for a walk.
+  /// @param EntryType The kind of item: Appointment, Contact, Note, Task or Email.
+  /// @param Condition A condition in Outlook's own form, as [Complete] = False; an empty text takes all.
   bool InitItems(const std::wstring& EntryType, const std::wstring& Condition) {
     detail::Flag result;
     detail::check(control_->InitItems(detail::Text(EntryType), detail::Text(Condition), result));
     return result.plain();
   }
 
-  /// Makes a new, unsaved item current.
+  /// Makes a new item, unsaved, the current one.
+  /// @param EntryType The kind of item: Appointment, Contact, Note, Task or Email.
   bool CreateItem(const std::wstring& EntryType) {
     detail::Flag result;
     detail::check(control_->CreateItem(detail::Text(EntryType), result));
@@ -1079,20 +1172,25 @@ class ZORBOutlook : public detail::Control<IZORBOutlook> {
   }
 
   /// Deletes the current item.
+  /// @param EntryType The kind of item: Appointment, Contact, Note, Task or Email.
   bool DeleteItem(const std::wstring& EntryType) {
     detail::Flag result;
     detail::check(control_->DeleteItem(detail::Text(EntryType), result));
     return result.plain();
   }
 
-  /// Makes the item with the identifier EntryId current.
+  /// Makes the item with a certain identifier the current one.
+  /// @param EntryType The kind of item: Appointment, Contact, Note, Task or Email.
+  /// @param EntryId The identifier: what the key EntryID reads.
   bool GetItem(const std::wstring& EntryType, const std::wstring& EntryId) {
     detail::Flag result;
     detail::check(control_->GetItem(detail::Text(EntryType), detail::Text(EntryId), result));
     return result.plain();
   }
 
-  /// Makes the current appointment's occurrence of EntryDate (date text in the user's locale) current.
+  /// Makes one day's occurrence of the current appointment the current one.
+  /// @param EntryDate The day of the occurrence, with the time at which it begins, in the user's own order or as
+  /// year-month-day.
   bool GetAppointmentInstance(const std::wstring& EntryDate) {
     detail::Flag result;
     detail::check(control_->GetAppointmentInstance(detail::Text(EntryDate), result));
@@ -1100,55 +1198,66 @@ class ZORBOutlook : public detail::Control<IZORBOutlook> {
   }
 
   /// Saves the current item.
+  /// @param EntryType The kind of item: Appointment, Contact, Note, Task or Email.
   bool SaveItem(const std::wstring& EntryType) {
     detail::Flag result;
     detail::check(control_->SaveItem(detail::Text(EntryType), result));
     return result.plain();
   }
 
-  /// Exports the current item to FileName (path) in Outlook's default format.
+  /// Writes the current item to a file, in Outlook's own format.
+  /// @param EntryType The kind of item: Appointment, Contact, Note, Task or Email.
+  /// @param FileName Path of the file to write.
   bool SaveItemToFile(const std::wstring& EntryType, const std::wstring& FileName) {
     detail::Flag result;
     detail::check(control_->SaveItemToFile(detail::Text(EntryType), detail::Text(FileName), result));
     return result.plain();
   }
 
-  /// Saves an attachment of the current e-mail to FileName (path).
+  /// Writes an attachment of the current mail to a file.
+  /// @param AttachmentNo The attachment, counted from 1 among those that the text does not name.
+  /// @param FileName Path of the file to write.
   bool SaveEmailAttachment(short AttachmentNo, const std::wstring& FileName) {
     detail::Flag result;
     detail::check(control_->SaveEmailAttachment(detail::Int16(AttachmentNo), detail::Text(FileName), result));
     return result.plain();
   }
 
-  /// Returns the number of items in the entry type's collection, 0 on failure and above 32767.
+  /// Counts the items that InitItems took.
+  /// @param EntryType The kind of item: Appointment, Contact, Note, Task or Email.
   short GetItemCount(const std::wstring& EntryType) {
     detail::Int16 result;
     detail::check(control_->GetItemCount(detail::Text(EntryType), result));
     return result.plain();
   }
 
-  /// Makes the collection's first item of the entry type's class current; false when there is none.
+  /// Makes the first of the items that InitItems took the current one.
+  /// @param EntryType The kind of item: Appointment, Contact, Note, Task or Email.
   bool GetFirstItem(const std::wstring& EntryType) {
     detail::Flag result;
     detail::check(control_->GetFirstItem(detail::Text(EntryType), result));
     return result.plain();
   }
 
-  /// Makes the collection's next item of the entry type's class current; false at the end.
+  /// Makes the next of the items that InitItems took the current one.
+  /// @param EntryType The kind of item: Appointment, Contact, Note, Task or Email.
   bool GetNextItem(const std::wstring& EntryType) {
     detail::Flag result;
     detail::check(control_->GetNextItem(detail::Text(EntryType), result));
     return result.plain();
   }
 
-  /// Returns the current appointment's property AppProp as text.
+  /// Reads a property of the current appointment, as text.
+  /// @param AppProp The key of a property of the appointment.
   std::wstring GetAppointmentProperty(const std::wstring& AppProp) {
     detail::Text result;
     detail::check(control_->GetAppointmentProperty(detail::Text(AppProp), result));
     return result.plain();
   }
 
-  /// Converts PropertyValue and writes it to the current appointment's property AppProp.
+  /// Writes a property of the current appointment, from text.
+  /// @param AppProp The key of a property of the appointment.
+  /// @param PropertyValue The value as text.
   bool SetAppointmentProperty(const std::wstring& AppProp, const std::wstring& PropertyValue) {
     detail::Flag result;
     detail::check(control_->SetAppointmentProperty(detail::Text(AppProp), detail::Text(PropertyValue),
@@ -1156,7 +1265,7 @@ class ZORBOutlook : public detail::Control<IZORBOutlook> {
     return result.plain();
   }
 
-  /// Takes the current appointment's recurrence pattern into the control.
+  /// Takes the current appointment's recurrence pattern, for the members that read and write it.
   bool GetRecurrencePattern() {
     detail::Flag result;
     detail::check(control_->GetRecurrencePattern(result));
@@ -1170,14 +1279,17 @@ class ZORBOutlook : public detail::Control<IZORBOutlook> {
     return result.plain();
   }
 
-  /// Returns the recurrence pattern's property RecurProp as text.
+  /// Reads a property of the recurrence pattern, as text.
+  /// @param RecurProp The key of a property of the recurrence pattern.
   std::wstring GetRecurrenceProperty(const std::wstring& RecurProp) {
     detail::Text result;
     detail::check(control_->GetRecurrenceProperty(detail::Text(RecurProp), result));
     return result.plain();
   }
 
-  /// Converts PropertyValue and writes it to the recurrence pattern's property RecurProp.
+  /// Writes a property of the recurrence pattern, from text; always answers an empty text.
+  /// @param RecurProp The key of a property of the recurrence pattern.
+  /// @param PropertyValue The value as text.
   std::wstring SetRecurrenceProperty(const std::wstring& RecurProp, const std::wstring& PropertyValue) {
     detail::Text result;
     detail::check(control_->SetRecurrenceProperty(detail::Text(RecurProp), detail::Text(PropertyValue),
@@ -1185,21 +1297,26 @@ class ZORBOutlook : public detail::Control<IZORBOutlook> {
     return result.plain();
   }
 
-  /// Returns the property ExceptProp of the pattern's exception Instance (counted from 1) as text.
+  /// Reads a property of one exception of the recurrence pattern, as text.
+  /// @param Instance The exception, counted from 1.
+  /// @param ExceptProp The key of a property of the exception.
   std::wstring GetExceptionProperty(short Instance, const std::wstring& ExceptProp) {
     detail::Text result;
     detail::check(control_->GetExceptionProperty(detail::Int16(Instance), detail::Text(ExceptProp), result));
     return result.plain();
   }
 
-  /// Returns the current contact's property ContactProp as text.
+  /// Reads a property of the current contact, as text.
+  /// @param ContactProp The key of a property of the contact.
   std::wstring GetContactProperty(const std::wstring& ContactProp) {
     detail::Text result;
     detail::check(control_->GetContactProperty(detail::Text(ContactProp), result));
     return result.plain();
   }
 
-  /// Writes PropertyValue to the current contact's property ContactProp.
+  /// Writes a property of the current contact, from text.
+  /// @param ContactProp The key of a property of the contact.
+  /// @param PropertyValue The value as text.
   bool SetContactProperty(const std::wstring& ContactProp, const std::wstring& PropertyValue) {
     detail::Flag result;
     detail::check(control_->SetContactProperty(detail::Text(ContactProp), detail::Text(PropertyValue),
@@ -1207,49 +1324,56 @@ class ZORBOutlook : public detail::Control<IZORBOutlook> {
     return result.plain();
   }
 
-  /// Returns the current task's property TaskProp as text.
+  /// Reads a property of the current task, as text.
+  /// @param TaskProp The key of a property of the task.
   std::wstring GetTaskProperty(const std::wstring& TaskProp) {
     detail::Text result;
     detail::check(control_->GetTaskProperty(detail::Text(TaskProp), result));
     return result.plain();
   }
 
-  /// Converts PropertyValue and writes it to the current task's property TaskProperty.
+  /// Writes a property of the current task, from text.
+  /// @param TaskProperty The key of a property of the task.
+  /// @param PropertyValue The value as text.
   bool SetTaskProperty(const std::wstring& TaskProperty, const std::wstring& PropertyValue) {
     detail::Flag result;
     detail::check(control_->SetTaskProperty(detail::Text(TaskProperty), detail::Text(PropertyValue), result));
     return result.plain();
   }
 
-  /// Returns the current e-mail's property EmailProp as text.
+  /// Reads a property of the current mail, as text.
+  /// @param EmailProp The key of a property of the mail.
   std::wstring GetEmailProperty(const std::wstring& EmailProp) {
     detail::Text result;
     detail::check(control_->GetEmailProperty(detail::Text(EmailProp), result));
     return result.plain();
   }
 
-  /// Returns the current note's property NoteProperty as text.
+  /// Reads a property of the current note, as text.
+  /// @param NoteProperty The key of a property of the note.
   std::wstring GetNoteProperty(const std::wstring& NoteProperty) {
     detail::Text result;
     detail::check(control_->GetNoteProperty(detail::Text(NoteProperty), result));
     return result.plain();
   }
 
-  /// Converts PropertyValue and writes it to the current note's property NoteProperty.
+  /// Writes a property of the current note, from text.
+  /// @param NoteProperty The key of a property of the note.
+  /// @param PropertyValue The value as text.
   bool SetNoteProperty(const std::wstring& NoteProperty, const std::wstring& PropertyValue) {
     detail::Flag result;
     detail::check(control_->SetNoteProperty(detail::Text(NoteProperty), detail::Text(PropertyValue), result));
     return result.plain();
   }
 
-  /// Returns the number of the last recorded failure, 0 before any.
+  /// Reads the number of the last recorded failure, 0 before any.
   short GetLastErrorNumber() {
     detail::Int16 result;
     detail::check(control_->GetLastErrorNumber(result));
     return result.plain();
   }
 
-  /// Returns the description of the last recorded failure, "" before any.
+  /// Reads the text of the last recorded failure, empty before any.
   std::wstring GetLastErrorDescription() {
     detail::Text result;
     detail::check(control_->GetLastErrorDescription(result));
@@ -1257,7 +1381,7 @@ class ZORBOutlook : public detail::Control<IZORBOutlook> {
   }
 };
 
-/// Drives an office suite.
+/// Drives an office suite with the members of ZORBWord: opens, reads and searches documents.
 class OpenWriter : public detail::Control<IOpenWriter> {
  public:
   /// Creates the control.
@@ -1265,66 +1389,81 @@ class OpenWriter : public detail::Control<IOpenWriter> {
   /// Takes one that exists, such as a form's.
   explicit OpenWriter(IOpenWriter* control) : Control(control) {}
 
-  /// Both classes publish the same forty members in the same slots; early-bound hosts rely on it.
+  /// Starts the office suite and holds its service manager and its desktop.
+  /// @param Template True also asks for a window in a certain place, which fails; False does nothing more.
   bool Start(bool Template = false) {
     detail::Byte result;
     detail::check(control_->get_Start(detail::Flag(Template), result));
     return result.plain();
   }
 
-  /// Shows or hides the application (IsVisible: flag) and activates it.
+  /// Does nothing: the suite decides itself what it shows.
+  /// @param IsVisible Has no effect.
   bool SetVisible(bool IsVisible) {
     detail::Byte result;
     detail::check(control_->get_SetVisible(detail::Flag(IsVisible), result));
     return result.plain();
   }
 
-  /// Activates the application, whatever IsActive (flag) says.
+  /// Does nothing: the suite decides itself what is in front.
+  /// @param IsActive Has no effect.
   bool SetActive(bool IsActive) {
     detail::Byte result;
     detail::check(control_->get_SetActive(detail::Flag(IsActive), result));
     return result.plain();
   }
 
-  /// Opens the file Doc (path) and makes it the active document.
+  /// Loads a document into the suite and makes it the active one.
+  /// @param Doc Path of the document.
   bool OpenDoc(const std::wstring& Doc) {
     detail::Byte result;
     detail::check(control_->get_OpenDoc(detail::Text(Doc), result));
     return result.plain();
   }
 
-  /// Creates a document from the template Doc (path, optional, default "": the normal template) and makes it
-  /// the active document; the earlier one stays when that fails.
+  /// Loads a new document from a template into the suite, and makes it the active one.
+  /// @param Doc Path of the template; an empty text means the normal one.
   bool CreateDoc(const std::wstring& Doc = L"") {
     detail::Byte result;
     detail::check(control_->get_CreateDoc(detail::Text(Doc), result));
     return result.plain();
   }
 
-  /// Types Text at the selection.
+  /// Types a text at the selection.
+  /// @param Text The text to type.
   bool SendText(const std::wstring& Text) {
     detail::Byte result;
     detail::check(control_->get_SendText(detail::Text(Text), result));
     return result.plain();
   }
 
-  /// Reads the document's text from character StartPos to EndPos, counted from 0. A start of 0 or less with
-  /// an end means 1, so the first character is left out; an end of 0 or less means the text's length; both 0
-  /// or less read all sections' texts, joined.
+  /// Reads the document's whole text.
+  /// @param StartPos Has no effect.
+  /// @param EndPos Has no effect.
   std::wstring ReadText(long StartPos, long EndPos) {
     detail::Text result;
     detail::check(control_->get_ReadText(detail::Int32(StartPos), detail::Int32(EndPos), result));
     return result.plain();
   }
 
-  /// Switches the redrawing of the application's windows (Update: flag).
+  /// Does nothing: the suite redraws as it likes.
+  /// @param Update Has no effect.
   bool SetScreenUpdating(bool Update) {
     detail::Byte result;
     detail::check(control_->get_SetScreenUpdating(detail::Flag(Update), result));
     return result.plain();
   }
 
-  /// Finds SearchString and selects it.
+  /// Shows the text to find in a box, and tells whether the document holds it.
+  /// @param SearchString The text to find.
+  /// @param WrapAction Has no effect.
+  /// @param SearchForward Has no effect.
+  /// @param BeginAtTop Has no effect.
+  /// @param MatchCase Has no effect.
+  /// @param MatchWholeWord Has no effect.
+  /// @param MatchWildcards True reads the text that is searched for as a regular expression.
+  /// @param MatchSoundsLike Has no effect.
+  /// @param MatchAllWordForms Has no effect.
   bool Search(const std::wstring& SearchString, WdFindWrap WrapAction = wdFindContinue,
       bool SearchForward = true, bool BeginAtTop = false, bool MatchCase = false, bool MatchWholeWord = false,
       bool MatchWildcards = false, bool MatchSoundsLike = false, bool MatchAllWordForms = false) {
@@ -1336,20 +1475,31 @@ class OpenWriter : public detail::Control<IOpenWriter> {
     return result.plain();
   }
 
-  /// Returns 1 when the selection is in a table.
+  /// Tells whether the selection is in a table.
   bool InTable() {
     detail::Byte result;
     detail::check(control_->get_InTable(result));
     return result.plain();
   }
 
-  /// Selects the row of the table in which the selection is.
+  /// Selects the table row that the selection is in.
   void SelectRow() {
     detail::Variant result;
     detail::check(control_->SelectRow(result));
   }
 
-  /// Finds SearchString from the selection on and replaces it by ReplaceString.
+  /// Finds a text from the selection on and replaces it.
+  /// @param SearchString The text to find.
+  /// @param ReplaceString The text to put in its place.
+  /// @param WrapAction What to do at the end of the text: stop (0), go on at its other end (1), or ask (2).
+  /// @param SearchForward True searches towards the end, False towards the start.
+  /// @param BeginAtTop Has no effect.
+  /// @param MatchCase True tells capital letters from small ones.
+  /// @param MatchWholeWord True finds whole words only.
+  /// @param MatchWildcards True reads the text that is searched for as a pattern.
+  /// @param MatchSoundsLike True also finds words that sound alike.
+  /// @param MatchAllWordForms True also finds the other forms of the words.
+  /// @param ReplaceOption How many to replace: none (0), the first one (1), or all (2).
   bool Replace(const std::wstring& SearchString, const std::wstring& ReplaceString,
       WdFindWrap WrapAction = wdFindContinue, bool SearchForward = true, bool BeginAtTop = true,
       bool MatchCase = false, bool MatchWholeWord = false, bool MatchWildcards = false,
@@ -1362,14 +1512,19 @@ class OpenWriter : public detail::Control<IOpenWriter> {
     return result.plain();
   }
 
-  /// Returns the number of sections of the active document.
+  /// Counts the sections of the active document.
   long NumberOfSections() {
     detail::Int32 result;
     detail::check(control_->get_NumberOfSections(result));
     return result.plain();
   }
 
-  /// Reads a header's (IsHeader true) or footer's text of Section (counted from 1).
+  /// Reads the text of a header or footer, or a part of it.
+  /// @param Section The section, counted from 1.
+  /// @param IsHeader True means the header, False the footer.
+  /// @param HeaderFooterType Of which pages: all others (1), the first (2), or even ones (3).
+  /// @param StartPos First character, counted from 0; both positions 0 mean the whole text.
+  /// @param EndPos Character after the last one; 0 means the end.
   std::wstring ReadHeaderFooterText(long Section, bool IsHeader, WdHeaderFooterIndex HeaderFooterType,
       long StartPos, long EndPos) {
     detail::Text result;
@@ -1378,8 +1533,12 @@ class OpenWriter : public detail::Control<IOpenWriter> {
     return result.plain();
   }
 
-  /// Copies headers, footers and the normal style's font, each if chosen, from SourceTemplate to DestTemplate
-  /// (paths; empty or "Normal": the application's template), and saves the latter.
+  /// Copies headers, footers and the normal font from one document to another, and saves that.
+  /// @param SourceTemplate Path of the document to copy from; an empty text means the normal template.
+  /// @param DestTemplate Path of the document to change; an empty text means the normal template.
+  /// @param ApplyHeader True copies the headers.
+  /// @param ApplyFooter True copies the footers.
+  /// @param ApplyFont True copies the normal style's font.
   bool SetHeaderFooter(const std::wstring& SourceTemplate, const std::wstring& DestTemplate,
       unsigned char ApplyHeader, unsigned char ApplyFooter, unsigned char ApplyFont) {
     detail::Byte result;
@@ -1388,8 +1547,21 @@ class OpenWriter : public detail::Control<IOpenWriter> {
     return result.plain();
   }
 
-  /// Replace, within one header or footer, named as in ReadHeaderFooterText; in one that does not exist
-  /// nothing is found.
+  /// Finds a text in a header or footer and replaces it.
+  /// @param Section The section, counted from 1.
+  /// @param IsHeader True means the header, False the footer.
+  /// @param HeaderFooterType Of which pages: all others (1), the first (2), or even ones (3).
+  /// @param SearchString The text to find.
+  /// @param ReplaceString The text to put in its place.
+  /// @param WrapAction What to do at the end of the text: stop (0), go on at its other end (1), or ask (2).
+  /// @param SearchForward True searches towards the end, False towards the start.
+  /// @param BeginAtTop Has no effect.
+  /// @param MatchCase True tells capital letters from small ones.
+  /// @param MatchWholeWord True finds whole words only.
+  /// @param MatchWildcards True reads the text that is searched for as a pattern.
+  /// @param MatchSoundsLike True also finds words that sound alike.
+  /// @param MatchAllWordForms True also finds the other forms of the words.
+  /// @param ReplaceOption How many to replace: none (0), the first one (1), or all (2).
   bool ReplaceHeaderFooter(long Section, bool IsHeader, WdHeaderFooterIndex HeaderFooterType,
       const std::wstring& SearchString, const std::wstring& ReplaceString,
       WdFindWrap WrapAction = wdFindContinue, bool SearchForward = true, bool BeginAtTop = true,
@@ -1404,15 +1576,15 @@ class OpenWriter : public detail::Control<IOpenWriter> {
     return result.plain();
   }
 
-  /// Returns the number of cells of the selection's first row.
+  /// Counts the cells of the selection's first table row.
   long CellCount() {
     detail::Int32 result;
     detail::check(control_->get_CellCount(result));
     return result.plain();
   }
 
-  /// Returns the text of cell CellId (counted from 1) of the selection's first row, its end-of-cell mark
-  /// included.
+  /// Reads a cell of the selection's first table row.
+  /// @param CellId The cell, counted from 1.
   std::wstring CellText(long CellId) {
     detail::Text result;
     detail::check(control_->get_CellText(detail::Int32(CellId), result));
@@ -1431,7 +1603,7 @@ class OpenWriter : public detail::Control<IOpenWriter> {
     detail::check(control_->SelectParagraph(result));
   }
 
-  /// Returns the selected text, "" on failure.
+  /// Reads the selected text.
   std::wstring SelectionText() {
     detail::Text result;
     detail::check(control_->get_SelectionText(result));
@@ -1444,14 +1616,20 @@ class OpenWriter : public detail::Control<IOpenWriter> {
     detail::check(control_->Paste(result));
   }
 
-  /// Moves the insertion point left by Units units.
+  /// Moves the insertion point to the left.
+  /// @param Units How many units to move.
+  /// @param Unit By what to move: a WdUnits number.
+  /// @param Selecting Whether to extend the selection (1) or only to move (0).
   void CursorLeft(short Units, WdUnits Unit = wdCharacter, WdMovementType Selecting = wdMove) {
     detail::Variant result;
     detail::check(control_->CursorLeft(detail::Int16(Units), detail::Int16(Unit), detail::Variant(Selecting),
         result));
   }
 
-  /// CursorLeft to the right.
+  /// Moves the insertion point to the right.
+  /// @param Units How many units to move.
+  /// @param Unit By what to move: a WdUnits number.
+  /// @param Selecting Whether to extend the selection (1) or only to move (0).
   void CursorRight(short Units, WdUnits Unit = wdCharacter, WdMovementType Selecting = wdMove) {
     detail::Variant result;
     detail::check(control_->CursorRight(detail::Int16(Units), detail::Int16(Unit), detail::Variant(Selecting),
@@ -1464,13 +1642,13 @@ class OpenWriter : public detail::Control<IOpenWriter> {
     detail::check(control_->CursorStartOfParagraph(result));
   }
 
-  /// Moves the insertion point to the start of its cell.
+  /// Moves the insertion point to the start of its table cell.
   void CursorStartOfCell() {
     detail::Variant result;
     detail::check(control_->CursorStartOfCell(result));
   }
 
-  /// Moves the insertion point to the end of its cell.
+  /// Moves the insertion point to the end of its table cell.
   void CursorEndOfCell() {
     detail::Variant result;
     detail::check(control_->CursorEndOfCell(result));
@@ -1482,7 +1660,9 @@ class OpenWriter : public detail::Control<IOpenWriter> {
     detail::check(control_->CursorEndOfParagraph(result));
   }
 
-  /// Collapses the selection and moves it by Units units of Unit (a wdUnits value).
+  /// Collapses the selection and moves it.
+  /// @param Unit By what to move: a WdUnits number.
+  /// @param Units How many units to move; a negative number moves back.
   void Move(WdUnits Unit, short Units) {
     detail::Variant result;
     detail::check(control_->Move(detail::Int16(Unit), detail::Int16(Units), result));
@@ -1494,68 +1674,73 @@ class OpenWriter : public detail::Control<IOpenWriter> {
     detail::check(control_->FinaliseDoc(result));
   }
 
-  /// Saves the document, as Docname (path, optional) when that is not empty.
+  /// Saves the document, under a new name where one is given.
+  /// @param Docname Path to save as; an empty text keeps the name.
   void SaveDoc(const std::wstring& Docname = L"") {
     detail::Variant result;
     detail::check(control_->SaveDoc(detail::Text(Docname), result));
   }
 
-  /// Prints the document to the first installed printer whose name contains "PDF", in capitals, and returns
-  /// true; false when there is none.
+  /// Prints the document to the first printer whose name has PDF in it.
   bool SaveDocAsPDF() {
     detail::Flag result;
     detail::check(control_->SaveDocAsPDF(result));
     return result.plain();
   }
 
-  /// Closes the document and lets go of it.
+  /// Closes the document.
+  /// @param SaveOption What to do with changes: drop them (0), save them (-1), or ask (-2).
   void CloseDoc(WdSaveOptions SaveOption = wdDoNotSaveChanges) {
     detail::Variant result;
     detail::check(control_->CloseDoc(detail::Int16(SaveOption), result));
   }
 
-  /// Quits the application and lets go of it: with Force (flag, optional) always, otherwise only when no
-  /// document is open.
+  /// Quits the application.
+  /// @param Force True quits also while documents are open.
   void StopWord(bool Force = false) {
     detail::Variant result;
     detail::check(control_->StopWord(detail::Flag(Force), result));
   }
 
-  /// Prints Copies copies of the document, then lets the host's pending window messages run once.
+  /// Prints the document.
+  /// @param Copies How many copies.
+  /// @param Background Has no effect.
   void PrintDoc(short Copies, bool Background = false) {
     detail::Variant result;
     detail::check(control_->PrintDoc(detail::Int16(Copies), detail::Flag(Background), result));
   }
 
-  /// Returns how many documents are being printed or saved in the background, 0 when none.
+  /// Counts the documents that are being printed or saved in the background.
   short IsPrinting() {
     detail::Int16 result;
     detail::check(control_->IsPrinting(result));
     return result.plain();
   }
 
-  /// Returns the application's default folder PathId (a wdDefaultFilePath value), "" on failure.
+  /// Reads one of the default folders.
+  /// @param PathId Which folder: a WdDefaultFilePath number.
   std::wstring GetDefaultPaths(WdDefaultFilePath PathId) {
     detail::Text result;
     detail::check(control_->GetDefaultPaths(detail::Int16(PathId), result));
     return result.plain();
   }
 
-  /// Moves the insertion point to line LineNo, counted from 1; returns true, or false on failure.
+  /// Moves the insertion point to a line.
+  /// @param LineNo The line, counted from 1.
   bool GotoLine(short LineNo) {
     detail::Flag result;
     detail::check(control_->GotoLine(detail::Int16(LineNo), result));
     return result.plain();
   }
 
-  /// Returns the number of the last recorded failure: always 0, because no member of these classes records.
+  /// Reads the number of the last recorded failure: always 0.
   long GetLastErrorNumber() {
     detail::Int32 result;
     detail::check(control_->get_GetLastErrorNumber(result));
     return result.plain();
   }
 
-  /// Returns the description of the last recorded failure: always "".
+  /// Reads the text of the last recorded failure: always empty.
   std::wstring GetLastErrorDescription() {
     detail::Text result;
     detail::check(control_->get_GetLastErrorDescription(result));
@@ -1567,11 +1752,8 @@ class OpenWriter : public detail::Control<IOpenWriter> {
 
 // For __uuidof and IID_PPV_ARGS with MinGW, as the attribute above is for the others.
 #ifdef __CRT_UUID_DECL
-__CRT_UUID_DECL(ZORBOffice::IZORBWord, 0x79397b6a, 0x4416, 0x4196, 0x88, 0x24, 0x6e, 0x59, 0x99, 0x16, 0xdc,
-    0x95)
-__CRT_UUID_DECL(ZORBOffice::IZORBOutlook, 0xa7e31fe0, 0xe2a1, 0x4b1e, 0xb3, 0x86, 0x22, 0x56, 0x40, 0x26,
-    0x55, 0x1d)
-__CRT_UUID_DECL(ZORBOffice::IOpenWriter, 0x8a83a708, 0x86a0, 0x414a, 0xa5, 0x88, 0x7d, 0xc3, 0x74, 0x93, 0x87,
-    0x29)
+__CRT_UUID_DECL(ZORBOffice::IZORBWord, 0x79397b6a, 0x4416, 0x4196, 0x88, 0x24, 0x6e, 0x59, 0x99, 0x16, 0xdc, 0x95)
+__CRT_UUID_DECL(ZORBOffice::IZORBOutlook, 0xa7e31fe0, 0xe2a1, 0x4b1e, 0xb3, 0x86, 0x22, 0x56, 0x40, 0x26, 0x55, 0x1d)
+__CRT_UUID_DECL(ZORBOffice::IOpenWriter, 0x8a83a708, 0x86a0, 0x414a, 0xa5, 0x88, 0x7d, 0xc3, 0x74, 0x93, 0x87, 0x29)
 #endif
 #undef ZORBOFFICE_UUID

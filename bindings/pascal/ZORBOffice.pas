@@ -1,5 +1,5 @@
-{ ZORBOffice for Delphi and Free Pascal: the controls' interfaces, a record a control that is called with plain values, and under
-  Delphi the controls for a form. Written by the build from the tables of the library; not to be edited.
+{ ZORBOffice for Delphi and Free Pascal: the controls' interfaces, a record a control that is called with plain values, and
+  under Delphi the controls for a form. Written by the build from the tables of the library; not to be edited.
 
     Library_ := TUnregisteredLibrary.Create('C:\Tools\ZORBOffice.manifest');  // not needed where it is registered
     Word := TZORBWord.Create;
@@ -17,7 +17,8 @@ unit ZORBOffice;
 interface
 
 uses
-  Windows, ActiveX, ComObj, SysUtils{$IFNDEF FPC}, Classes, {$IF CompilerVersion >= 23}Vcl.OleCtrls{$ELSE}OleCtrls{$IFEND}{$ENDIF};
+  {$IFNDEF FPC}Classes, {$IF CompilerVersion >= 23}Vcl.OleCtrls{$ELSE}OleCtrls{$IFEND},{$ENDIF}
+  Windows, ActiveX, ComObj, SysUtils;
 
 const
   LIBID_ZORBOffice50: TGUID = '{8698DD46-FA38-4FD0-8336-FA997FB10D92}';
@@ -26,318 +27,332 @@ const
   CLASS_OpenWriter: TGUID = '{B0584FF2-C51E-4844-94E6-AAC137F18002}';
 
   { WdFindWrap: What a search does when it reaches the end of the text. }
-  wdFindStop = 0;  { It ends. }
-  wdFindContinue = 1;  { It goes on from the other end. }
-  wdFindAsk = 2;  { It asks the user. }
+  wdFindStop = 0;  // It ends.
+  wdFindContinue = 1;  // It goes on from the other end.
+  wdFindAsk = 2;  // It asks the user.
 
   { WdReplace: How much is replaced. }
-  wdReplaceNone = 0;  { Nothing. }
-  wdReplaceOne = 1;  { The first occurrence. }
-  wdReplaceAll = 2;  { Every occurrence. }
+  wdReplaceNone = 0;  // Nothing.
+  wdReplaceOne = 1;  // The first occurrence.
+  wdReplaceAll = 2;  // Every occurrence.
 
   { WdHeaderFooterIndex: Which of a section's headers or footers is meant. }
-  wdHeaderFooterPrimary = 1;  { The one of all pages that have none of their own. }
-  wdHeaderFooterFirstPage = 2;  { The first page's. }
-  wdHeaderFooterEvenPages = 3;  { The even pages'. }
+  wdHeaderFooterPrimary = 1;  // The one of all pages that have none of their own.
+  wdHeaderFooterFirstPage = 2;  // The first page's.
+  wdHeaderFooterEvenPages = 3;  // The even pages'.
 
   { WdUnits: By what the insertion point moves. }
-  wdCharacter = 1;  { Characters. }
-  wdWord = 2;  { Words. }
-  wdSentence = 3;  { Sentences. }
-  wdParagraph = 4;  { Paragraphs. }
-  wdLine = 5;  { Lines. }
-  wdStory = 6;  { Stories: the main text, a header and so on. }
-  wdScreen = 7;  { Screens. }
-  wdSection = 8;  { Sections. }
-  wdColumn = 9;  { Columns. }
-  wdRow = 10;  { Rows. }
-  wdWindow = 11;  { Windows. }
-  wdCell = 12;  { Cells. }
-  wdCharacterFormatting = 13;  { Runs of one character formatting. }
-  wdParagraphFormatting = 14;  { Runs of one paragraph formatting. }
-  wdTable = 15;  { Tables. }
-  wdItem = 16;  { The selected item. }
+  wdCharacter = 1;  // Characters.
+  wdWord = 2;  // Words.
+  wdSentence = 3;  // Sentences.
+  wdParagraph = 4;  // Paragraphs.
+  wdLine = 5;  // Lines.
+  wdStory = 6;  // Stories: the main text, a header and so on.
+  wdScreen = 7;  // Screens.
+  wdSection = 8;  // Sections.
+  wdColumn = 9;  // Columns.
+  wdRow = 10;  // Rows.
+  wdWindow = 11;  // Windows.
+  wdCell = 12;  // Cells.
+  wdCharacterFormatting = 13;  // Runs of one character formatting.
+  wdParagraphFormatting = 14;  // Runs of one paragraph formatting.
+  wdTable = 15;  // Tables.
+  wdItem = 16;  // The selected item.
 
   { WdMovementType: Whether a movement selects. }
-  wdMove = 0;  { The selection becomes an insertion point and moves. }
-  wdExtend = 1;  { The selection is extended. }
+  wdMove = 0;  // The selection becomes an insertion point and moves.
+  wdExtend = 1;  // The selection is extended.
 
   { WdSaveOptions: What becomes of changes when a document is closed. }
-  wdDoNotSaveChanges = 0;  { They are lost. }
-  wdSaveChanges = -1;  { They are saved. }
-  wdPromptToSaveChanges = -2;  { The user is asked. }
+  wdDoNotSaveChanges = 0;  // They are lost.
+  wdSaveChanges = -1;  // They are saved.
+  wdPromptToSaveChanges = -2;  // The user is asked.
 
   { WdDefaultFilePath: One of the word processor's default folders. }
-  wdDocumentsPath = 0;  { Documents. }
-  wdPicturesPath = 1;  { Pictures. }
-  wdUserTemplatesPath = 2;  { The user's templates. }
-  wdWorkgroupTemplatesPath = 3;  { The workgroup's templates. }
-  wdUserOptionsPath = 4;  { The user's options. }
-  wdAutoRecoverPath = 5;  { Files for recovery. }
-  wdToolsPath = 6;  { Tools. }
-  wdTutorialPath = 7;  { The tutorial. }
-  wdStartupPath = 8;  { What is loaded at the start. }
-  wdProgramPath = 9;  { The program. }
-  wdGraphicsFiltersPath = 10;  { Filters for pictures. }
-  wdTextConvertersPath = 11;  { Converters of text. }
-  wdProofingToolsPath = 12;  { Proofing tools. }
-  wdTempFilePath = 13;  { Temporary files. }
-  wdCurrentFolderPath = 14;  { The current folder. }
-  wdStyleGalleryPath = 15;  { The style gallery. }
-  wdBorderArtPath = 19;  { Art for borders. }
+  wdDocumentsPath = 0;  // Documents.
+  wdPicturesPath = 1;  // Pictures.
+  wdUserTemplatesPath = 2;  // The user's templates.
+  wdWorkgroupTemplatesPath = 3;  // The workgroup's templates.
+  wdUserOptionsPath = 4;  // The user's options.
+  wdAutoRecoverPath = 5;  // Files for recovery.
+  wdToolsPath = 6;  // Tools.
+  wdTutorialPath = 7;  // The tutorial.
+  wdStartupPath = 8;  // What is loaded at the start.
+  wdProgramPath = 9;  // The program.
+  wdGraphicsFiltersPath = 10;  // Filters for pictures.
+  wdTextConvertersPath = 11;  // Converters of text.
+  wdProofingToolsPath = 12;  // Proofing tools.
+  wdTempFilePath = 13;  // Temporary files.
+  wdCurrentFolderPath = 14;  // The current folder.
+  wdStyleGalleryPath = 15;  // The style gallery.
+  wdBorderArtPath = 19;  // Art for borders.
 
   { OlImportance: Values of `Importance`, and of a task's `Priority`. }
-  olImportanceLow = 0;  { Low. }
-  olImportanceNormal = 1;  { Normal. }
-  olImportanceHigh = 2;  { High. }
+  olImportanceLow = 0;  // Low.
+  olImportanceNormal = 1;  // Normal.
+  olImportanceHigh = 2;  // High.
 
   { OlSensitivity: Values of `Sensitivity`. Only olPrivate can be written; any other becomes olNormal. }
-  olNormal = 0;  { Normal. }
-  olPersonal = 1;  { Personal. }
-  olPrivate = 2;  { Private. }
-  olConfidential = 3;  { Confidential. }
+  olNormal = 0;  // Normal.
+  olPersonal = 1;  // Personal.
+  olPrivate = 2;  // Private.
+  olConfidential = 3;  // Confidential.
 
   { OlRecurrenceType: Values of `RecurrenceType`. }
-  olRecursDaily = 0;  { Every so many days. }
-  olRecursWeekly = 1;  { On days of the week. }
-  olRecursMonthly = 2;  { On a day of the month. }
-  olRecursMonthNth = 3;  { On, say, the second Tuesday of the month: see `Instance`. }
-  olRecursYearly = 5;  { On a day of the year. }
-  olRecursYearNth = 6;  { On, say, the second Tuesday of May: see `Instance`. }
+  olRecursDaily = 0;  // Every so many days.
+  olRecursWeekly = 1;  // On days of the week.
+  olRecursMonthly = 2;  // On a day of the month.
+  olRecursMonthNth = 3;  // On, say, the second Tuesday of the month: see `Instance`.
+  olRecursYearly = 5;  // On a day of the year.
+  olRecursYearNth = 6;  // On, say, the second Tuesday of May: see `Instance`.
 
   { OlDaysOfWeek: Values of `DayOfWeekMask`: one of them, or the sum of several. }
-  olSunday = 1;  { Sunday. }
-  olMonday = 2;  { Monday. }
-  olTuesday = 4;  { Tuesday. }
-  olWednesday = 8;  { Wednesday. }
-  olThursday = 16;  { Thursday. }
-  olFriday = 32;  { Friday. }
-  olSaturday = 64;  { Saturday. }
+  olSunday = 1;  // Sunday.
+  olMonday = 2;  // Monday.
+  olTuesday = 4;  // Tuesday.
+  olWednesday = 8;  // Wednesday.
+  olThursday = 16;  // Thursday.
+  olFriday = 32;  // Friday.
+  olSaturday = 64;  // Saturday.
 
   { OlMeetingStatus: Values of `MeetingStatus`. }
-  olNonMeeting = 0;  { An appointment without attendees. }
-  olMeeting = 1;  { A meeting. }
-  olMeetingReceived = 3;  { A meeting to which one was invited. }
-  olMeetingCanceled = 5;  { A cancelled meeting. }
-  olMeetingReceivedAndCanceled = 7;  { A cancelled meeting that is still in the calendar. }
+  olNonMeeting = 0;  // An appointment without attendees.
+  olMeeting = 1;  // A meeting.
+  olMeetingReceived = 3;  // A meeting to which one was invited.
+  olMeetingCanceled = 5;  // A cancelled meeting.
+  olMeetingReceivedAndCanceled = 7;  // A cancelled meeting that is still in the calendar.
 
   { OlRecurrenceState: Values of `RecurrenceState`. }
-  olApptNotRecurring = 0;  { A single appointment. }
-  olApptMaster = 1;  { A series. }
-  olApptOccurrence = 2;  { One occurrence of a series. }
-  olApptException = 3;  { A changed occurrence of a series. }
+  olApptNotRecurring = 0;  // A single appointment.
+  olApptMaster = 1;  // A series.
+  olApptOccurrence = 2;  // One occurrence of a series.
+  olApptException = 3;  // A changed occurrence of a series.
 
   { OlMailingAddress: Values of `SelectedMailingAddress`. }
-  olNone = 0;  { None. }
-  olHome = 1;  { The home address. }
-  olBusiness = 2;  { The business address. }
-  olOther = 3;  { The other address. }
+  olNone = 0;  // None.
+  olHome = 1;  // The home address.
+  olBusiness = 2;  // The business address.
+  olOther = 3;  // The other address.
 
   { OlDownloadState: Values of `DownloadState`. }
-  olHeaderOnly = 0;  { Only the header is there. }
-  olFullItem = 1;  { All of the item is there. }
+  olHeaderOnly = 0;  // Only the header is there.
+  olFullItem = 1;  // All of the item is there.
 
   { OlRemoteStatus: Values of `MarkForDownload`. }
-  olRemoteStatusNone = 0;  { None was set. }
-  olUnMarked = 1;  { Not marked. }
-  olMarkedForDownload = 2;  { Marked to be downloaded. }
-  olMarkedForCopy = 3;  { Marked to be copied. }
-  olMarkedForDelete = 4;  { Marked to be deleted. }
+  olRemoteStatusNone = 0;  // None was set.
+  olUnMarked = 1;  // Not marked.
+  olMarkedForDownload = 2;  // Marked to be downloaded.
+  olMarkedForCopy = 3;  // Marked to be copied.
+  olMarkedForDelete = 4;  // Marked to be deleted.
 
   { Kinds of items. InitItems knows six more words: `Sent Items`, and `Deleted ` in front of a kind. }
-  EntryTypeAppointment = 'Appointment';
-  EntryTypeContact = 'Contact';
-  EntryTypeNote = 'Note';
-  EntryTypeTask = 'Task';
-  EntryTypeEmail = 'Email';
-  EntryTypeSentItems = 'Sent Items';
-  EntryTypeDeletedAppointment = 'Deleted Appointment';
-  EntryTypeDeletedContact = 'Deleted Contact';
-  EntryTypeDeletedNote = 'Deleted Note';
-  EntryTypeDeletedTask = 'Deleted Task';
-  EntryTypeDeletedEmail = 'Deleted Email';
+  EntryTypeAppointment = 'Appointment';  // The calendar's.
+  EntryTypeContact = 'Contact';  // The contacts'.
+  EntryTypeNote = 'Note';  // The notes'.
+  EntryTypeTask = 'Task';  // The tasks'.
+  EntryTypeEmail = 'Email';  // The inbox's.
+  EntryTypeSentItems = 'Sent Items';  // Sent mails; for InitItems only.
+  EntryTypeDeletedAppointment = 'Deleted Appointment';  // For InitItems only.
+  EntryTypeDeletedContact = 'Deleted Contact';  // For InitItems only.
+  EntryTypeDeletedNote = 'Deleted Note';  // For InitItems only.
+  EntryTypeDeletedTask = 'Deleted Task';  // For InitItems only.
+  EntryTypeDeletedEmail = 'Deleted Email';  // For InitItems only.
 
   { Values of a task's `Status`. }
-  TaskStatusNotStarted = 'Not Started';
-  TaskStatusInProgress = 'In Progress';
-  TaskStatusCompleted = 'Completed';
-  TaskStatusWaiting = 'Waiting on someone else';
-  TaskStatusDeferred = 'Deferred';
+  TaskStatusNotStarted = 'Not Started';  // olTaskNotStarted (0).
+  TaskStatusInProgress = 'In Progress';  // olTaskInProgress (1).
+  TaskStatusCompleted = 'Completed';  // olTaskComplete (2).
+  TaskStatusWaiting = 'Waiting on someone else';  // olTaskWaiting (3).
+  TaskStatusDeferred = 'Deferred';  // olTaskDeferred (4).
+
+  { What GetExceptionProperty does beside reading. }
+  ExceptionActionGetAppointment = 'Get Appointment';  // Makes the exception's appointment the current one.
 
   { Keys of GetAppointmentProperty and SetAppointmentProperty, for the current appointment. }
-  AppointmentKeyAllDayEvent = 'AllDayEvent';
-  AppointmentKeyBilling = 'Billing';
-  AppointmentKeyBody = 'Body';
-  AppointmentKeyCompanies = 'Companies';
-  AppointmentKeyCreatedDate = 'CreatedDate';
-  AppointmentKeyCreatedTime = 'CreatedTime';
-  AppointmentKeyDuration = 'Duration';
-  AppointmentKeyEnd = 'End';
-  AppointmentKeyEndDate = 'EndDate';
-  AppointmentKeyEndTime = 'EndTime';
-  AppointmentKeyEntryID = 'EntryID';
-  AppointmentKeyFolder = 'Folder';
-  AppointmentKeyIsRecurring = 'IsRecurring';
-  AppointmentKeyImportance = 'Importance';
-  AppointmentKeyModifiedDate = 'ModifiedDate';
-  AppointmentKeyModifiedTime = 'ModifiedTime';
-  AppointmentKeyLocation = 'Location';
+  AppointmentKeyAllDayEvent = 'AllDayEvent';  // Whether the appointment takes whole days.
+  AppointmentKeyBilling = 'Billing';  // Billing information.
+  AppointmentKeyBody = 'Body';  // The appointment's text.
+  AppointmentKeyCompanies = 'Companies';  // The companies that have to do with the appointment.
+  AppointmentKeyCreatedDate = 'CreatedDate';  // The day on which the item was made.
+  AppointmentKeyCreatedTime = 'CreatedTime';  // The time of day at which the item was made.
+  AppointmentKeyDuration = 'Duration';  // How long it takes, in minutes.
+  AppointmentKeyEnd = 'End';  // When it ends.
+  AppointmentKeyEndDate = 'EndDate';  // The day on which it ends.
+  AppointmentKeyEndTime = 'EndTime';  // The time of day at which it ends.
+  AppointmentKeyEntryID = 'EntryID';  // The item's identifier, for GetItem.
+  AppointmentKeyFolder = 'Folder';  // The name of the folder that the item is in.
+  AppointmentKeyIsRecurring = 'IsRecurring';  // Whether the appointment is a series.
+  AppointmentKeyImportance = 'Importance';  // How important it is: low (0), normal (1) or high (2).
+  AppointmentKeyModifiedDate = 'ModifiedDate';  // The day on which the item was last changed.
+  AppointmentKeyModifiedTime = 'ModifiedTime';  // The time of day at which the item was last changed.
+  AppointmentKeyLocation = 'Location';  // The place.
+  // Whether the appointment is a meeting, and in which state: an OlMeetingStatus number.
   AppointmentKeyMeetingStatus = 'MeetingStatus';
-  AppointmentKeyMessageClass = 'MessageClass';
-  AppointmentKeyMileage = 'Mileage';
+  AppointmentKeyMessageClass = 'MessageClass';  // The item's message class, as IPM.Appointment.
+  AppointmentKeyMileage = 'Mileage';  // Miles travelled, as a text of the user's own.
+  // Whether the item is a single appointment (0), a series (1), an occurrence (2) or an exception (3).
   AppointmentKeyRecurrenceState = 'RecurrenceState';
+  // How many minutes before the start the reminder comes.
   AppointmentKeyReminderMinutesBeforeStart = 'ReminderMinutesBeforeStart';
-  AppointmentKeyReminderSet = 'ReminderSet';
+  AppointmentKeyReminderSet = 'ReminderSet';  // Whether there is a reminder.
+  // Who is to see it: everyone (0), or it is personal (1), private (2) or confidential (3).
   AppointmentKeySensitivity = 'Sensitivity';
-  AppointmentKeyStart = 'Start';
-  AppointmentKeyStartDate = 'StartDate';
-  AppointmentKeyStartTime = 'StartTime';
-  AppointmentKeySubject = 'Subject';
+  AppointmentKeyStart = 'Start';  // When it begins.
+  AppointmentKeyStartDate = 'StartDate';  // The day on which it begins.
+  AppointmentKeyStartTime = 'StartTime';  // The time of day at which it begins.
+  AppointmentKeySubject = 'Subject';  // The subject.
 
   { Keys of GetRecurrenceProperty and SetRecurrenceProperty, for the recurrence pattern. }
-  RecurrenceKeyClass = 'Class';
-  RecurrenceKeyDayOfMonth = 'DayOfMonth';
+  RecurrenceKeyClass = 'Class';  // The pattern's class: an OlObjectClass number, 28.
+  RecurrenceKeyDayOfMonth = 'DayOfMonth';  // The day of the month.
+  // The days of the week, added up: Sunday 1, Monday 2, Tuesday 4, Wednesday 8, Thursday 16, Friday 32, Saturday 64.
   RecurrenceKeyDayOfWeekMask = 'DayOfWeekMask';
-  RecurrenceKeyDuration = 'Duration';
-  RecurrenceKeyEndTime = 'EndTime';
-  RecurrenceKeyInterval = 'Interval';
-  RecurrenceKeyInstance = 'Instance';
-  RecurrenceKeyMonthOfYear = 'MonthOfYear';
-  RecurrenceKeyNoEndDate = 'NoEndDate';
-  RecurrenceKeyOccurrences = 'Occurrences';
-  RecurrenceKeyPatternEndDate = 'PatternEndDate';
+  RecurrenceKeyDuration = 'Duration';  // How long an occurrence takes, in minutes.
+  RecurrenceKeyEndTime = 'EndTime';  // The time of day at which an occurrence ends.
+  RecurrenceKeyInterval = 'Interval';  // Every how many days, weeks, months or years it recurs.
+  RecurrenceKeyInstance = 'Instance';  // Which such day of the month: first (1) to fourth (4), or last (5).
+  RecurrenceKeyMonthOfYear = 'MonthOfYear';  // The month, 1 to 12.
+  RecurrenceKeyNoEndDate = 'NoEndDate';  // Whether the series has no end.
+  RecurrenceKeyOccurrences = 'Occurrences';  // How many occurrences there are.
+  RecurrenceKeyPatternEndDate = 'PatternEndDate';  // The day on which the series ends.
+  // The day on which the series begins; it cannot be written. Writes the day on which the series ends, as
+  // PatternEndDate does: the start stays.
   RecurrenceKeyPatternStartDate = 'PatternStartDate';
+  // How it recurs: daily (0), weekly (1), monthly (2), monthly by weekday (3), yearly (5) or yearly by weekday (6).
   RecurrenceKeyRecurrenceType = 'RecurrenceType';
-  RecurrenceKeyStartTime = 'StartTime';
-  RecurrenceKeyExceptionCount = 'Exception Count';
-  RecurrenceKeyExceptionList = 'Exception List';
+  RecurrenceKeyStartTime = 'StartTime';  // The time of day at which an occurrence begins.
+  RecurrenceKeyExceptionCount = 'Exception Count';  // How many exceptions the series has.
+  RecurrenceKeyExceptionList = 'Exception List';  // All exceptions in one text.
 
   { Keys of GetExceptionProperty, for one exception of the recurrence pattern. }
-  ExceptionKeyOriginalDate = 'OriginalDate';
-  ExceptionKeyDeleted = 'Deleted';
+  ExceptionKeyOriginalDate = 'OriginalDate';  // The day on which the occurrence would have been.
+  ExceptionKeyDeleted = 'Deleted';  // Whether the occurrence was deleted; otherwise it was changed.
 
   { Keys of GetContactProperty and SetContactProperty, for the current contact. }
-  ContactKeyAssistantTelephoneNumber = 'AssistantTelephoneNumber';
-  ContactKeyBody = 'Body';
-  ContactKeyBusiness2TelephoneNumber = 'Business2TelephoneNumber';
-  ContactKeyBusinessAddress = 'BusinessAddress';
-  ContactKeyBusinessAddressCity = 'BusinessAddressCity';
-  ContactKeyBusinessAddressCountry = 'BusinessAddressCountry';
-  ContactKeyBusinessAddressPostalCode = 'BusinessAddressPostalCode';
-  ContactKeyBusinessAddressState = 'BusinessAddressState';
-  ContactKeyBusinessAddressStreet = 'BusinessAddressStreet';
-  ContactKeyBusinessFaxNumber = 'BusinessFaxNumber';
-  ContactKeyBusinesshomePage = 'BusinesshomePage';
-  ContactKeyBusinessTelephoneNumber = 'BusinessTelephoneNumber';
-  ContactKeyCarTelephoneNumber = 'CarTelephoneNumber';
-  ContactKeyCompanyMainTelephoneNumber = 'CompanyMainTelephoneNumber';
-  ContactKeyCompanyName = 'CompanyName';
-  ContactKeyEmail1Address = 'Email1Address';
-  ContactKeyEmail2Address = 'Email2Address';
-  ContactKeyEmail3Address = 'Email3Address';
-  ContactKeyFirstName = 'FirstName';
-  ContactKeyFullName = 'FullName';
-  ContactKeyGovernmentIDNumber = 'GovernmentIDNumber';
-  ContactKeyHome2TelephoneNumber = 'Home2TelephoneNumber';
-  ContactKeyHomeAddress = 'HomeAddress';
-  ContactKeyHomeAddressCity = 'HomeAddressCity';
-  ContactKeyHomeAddressCountry = 'HomeAddressCountry';
-  ContactKeyHomeAddressPostalCode = 'HomeAddressPostalCode';
-  ContactKeyHomeAddressState = 'HomeAddressState';
-  ContactKeyHomeAddressStreet = 'HomeAddressStreet';
-  ContactKeyHomeFaxNumber = 'HomeFaxNumber';
-  ContactKeyHomeTelephoneNumber = 'HomeTelephoneNumber';
-  ContactKeyJobTitle = 'JobTitle';
-  ContactKeyMailingAddress = 'MailingAddress';
-  ContactKeyMailingAddressCity = 'MailingAddressCity';
-  ContactKeyMailingAddressCountry = 'MailingAddressCountry';
-  ContactKeyMailingAddressPostalCode = 'MailingAddressPostalCode';
-  ContactKeyMailingAddressState = 'MailingAddressState';
-  ContactKeyMailingAddressStreet = 'MailingAddressStreet';
-  ContactKeyMobileTelephoneNumber = 'MobileTelephoneNumber';
-  ContactKeyNickname = 'Nickname';
-  ContactKeyOtherAddress = 'OtherAddress';
-  ContactKeyOtherAddressCity = 'OtherAddressCity';
-  ContactKeyOtherAddressCountry = 'OtherAddressCountry';
-  ContactKeyOtherAddressPostalCode = 'OtherAddressPostalCode';
-  ContactKeyOtherAddressState = 'OtherAddressState';
-  ContactKeyOtherAddressStreet = 'OtherAddressStreet';
-  ContactKeyOtherFaxNumber = 'OtherFaxNumber';
-  ContactKeyOtherTelephoneNumber = 'OtherTelephoneNumber';
-  ContactKeyPrimaryTelephoneNumber = 'PrimaryTelephoneNumber';
-  ContactKeyRadioTelephoneNumber = 'RadioTelephoneNumber';
-  ContactKeyTitle = 'Title';
-  ContactKeyWebPage = 'WebPage';
-  ContactKeyEntryID = 'EntryID';
-  ContactKeyFolder = 'Folder';
-  ContactKeyModifiedDate = 'ModifiedDate';
-  ContactKeyModifiedTime = 'ModifiedTime';
+  ContactKeyAssistantTelephoneNumber = 'AssistantTelephoneNumber';  // Telephone number of the assistant.
+  ContactKeyBody = 'Body';  // Notes on the contact.
+  ContactKeyBusiness2TelephoneNumber = 'Business2TelephoneNumber';  // Second telephone number at work.
+  ContactKeyBusinessAddress = 'BusinessAddress';  // Address at work, whole.
+  ContactKeyBusinessAddressCity = 'BusinessAddressCity';  // City of the address at work.
+  ContactKeyBusinessAddressCountry = 'BusinessAddressCountry';  // Country of the address at work.
+  ContactKeyBusinessAddressPostalCode = 'BusinessAddressPostalCode';  // Postal code of the address at work.
+  ContactKeyBusinessAddressState = 'BusinessAddressState';  // State of the address at work.
+  ContactKeyBusinessAddressStreet = 'BusinessAddressStreet';  // Street of the address at work.
+  ContactKeyBusinessFaxNumber = 'BusinessFaxNumber';  // Fax number at work.
+  ContactKeyBusinesshomePage = 'BusinesshomePage';  // Web page of the business; the key has a small h.
+  ContactKeyBusinessTelephoneNumber = 'BusinessTelephoneNumber';  // Telephone number at work.
+  ContactKeyCarTelephoneNumber = 'CarTelephoneNumber';  // Telephone number in the car.
+  ContactKeyCompanyMainTelephoneNumber = 'CompanyMainTelephoneNumber';  // Main telephone number of the company.
+  ContactKeyCompanyName = 'CompanyName';  // Name of the company.
+  ContactKeyEmail1Address = 'Email1Address';  // First mail address.
+  ContactKeyEmail2Address = 'Email2Address';  // Second mail address.
+  ContactKeyEmail3Address = 'Email3Address';  // Third mail address.
+  ContactKeyFirstName = 'FirstName';  // First name.
+  ContactKeyFullName = 'FullName';  // Whole name.
+  ContactKeyGovernmentIDNumber = 'GovernmentIDNumber';  // Number of an identity document.
+  ContactKeyHome2TelephoneNumber = 'Home2TelephoneNumber';  // Second telephone number at home.
+  ContactKeyHomeAddress = 'HomeAddress';  // Address at home, whole.
+  ContactKeyHomeAddressCity = 'HomeAddressCity';  // City of the address at home.
+  ContactKeyHomeAddressCountry = 'HomeAddressCountry';  // Country of the address at home.
+  ContactKeyHomeAddressPostalCode = 'HomeAddressPostalCode';  // Postal code of the address at home.
+  ContactKeyHomeAddressState = 'HomeAddressState';  // State of the address at home.
+  ContactKeyHomeAddressStreet = 'HomeAddressStreet';  // Street of the address at home.
+  ContactKeyHomeFaxNumber = 'HomeFaxNumber';  // Fax number at home.
+  ContactKeyHomeTelephoneNumber = 'HomeTelephoneNumber';  // Telephone number at home.
+  ContactKeyJobTitle = 'JobTitle';  // Job title.
+  ContactKeyMailingAddress = 'MailingAddress';  // The address that mail goes to, whole.
+  ContactKeyMailingAddressCity = 'MailingAddressCity';  // City of the address that mail goes to.
+  ContactKeyMailingAddressCountry = 'MailingAddressCountry';  // Country of the address that mail goes to.
+  ContactKeyMailingAddressPostalCode = 'MailingAddressPostalCode';  // Postal code of the address that mail goes to.
+  ContactKeyMailingAddressState = 'MailingAddressState';  // State of the address that mail goes to.
+  ContactKeyMailingAddressStreet = 'MailingAddressStreet';  // Street of the address that mail goes to.
+  ContactKeyMobileTelephoneNumber = 'MobileTelephoneNumber';  // Number of the mobile telephone.
+  ContactKeyNickname = 'Nickname';  // Nickname.
+  ContactKeyOtherAddress = 'OtherAddress';  // Another address, whole.
+  ContactKeyOtherAddressCity = 'OtherAddressCity';  // City of the other address.
+  ContactKeyOtherAddressCountry = 'OtherAddressCountry';  // Country of the other address.
+  ContactKeyOtherAddressPostalCode = 'OtherAddressPostalCode';  // Postal code of the other address.
+  ContactKeyOtherAddressState = 'OtherAddressState';  // State of the other address.
+  ContactKeyOtherAddressStreet = 'OtherAddressStreet';  // Street of the other address.
+  ContactKeyOtherFaxNumber = 'OtherFaxNumber';  // Another fax number.
+  ContactKeyOtherTelephoneNumber = 'OtherTelephoneNumber';  // Another telephone number.
+  ContactKeyPrimaryTelephoneNumber = 'PrimaryTelephoneNumber';  // The telephone number to try first.
+  ContactKeyRadioTelephoneNumber = 'RadioTelephoneNumber';  // Number of the radio telephone.
+  ContactKeyTitle = 'Title';  // Title before the name, as Dr.
+  ContactKeyWebPage = 'WebPage';  // Web page.
+  ContactKeyEntryID = 'EntryID';  // The item's identifier, for GetItem.
+  ContactKeyFolder = 'Folder';  // The name of the folder that the item is in.
+  ContactKeyModifiedDate = 'ModifiedDate';  // The day on which the item was last changed.
+  ContactKeyModifiedTime = 'ModifiedTime';  // The time of day at which the item was last changed.
+  // Which address mail goes to: none (0), home (1), work (2) or the other (3).
   ContactKeySelectedMailingAddress = 'SelectedMailingAddress';
+  // Nine telephone numbers in one text, without those of mobile and radio telephones.
   ContactKeyAllTelephoneNumbers = 'AllTelephoneNumbers';
-  ContactKeyAllFaxNumbers = 'AllFaxNumbers';
-  ContactKeyAllEmailAddresses = 'AllEmailAddresses';
+  ContactKeyAllFaxNumbers = 'AllFaxNumbers';  // The three fax numbers in one text.
+  ContactKeyAllEmailAddresses = 'AllEmailAddresses';  // The three mail addresses in one text.
 
   { Keys of GetTaskProperty and SetTaskProperty, for the current task. }
-  TaskKeyBody = 'Body';
-  TaskKeyCreationDate = 'CreationDate';
-  TaskKeyCreationTime = 'CreationTime';
-  TaskKeyDueDate = 'DueDate';
-  TaskKeyEntryID = 'EntryID';
-  TaskKeyFolder = 'Folder';
-  TaskKeyModifiedDate = 'ModifiedDate';
-  TaskKeyModifiedTime = 'ModifiedTime';
-  TaskKeyPercentComplete = 'PercentComplete';
-  TaskKeyPriority = 'Priority';
-  TaskKeyReminder = 'Reminder';
-  TaskKeyReminderDate = 'ReminderDate';
-  TaskKeyReminderTime = 'ReminderTime';
-  TaskKeySubject = 'Subject';
-  TaskKeyStartDate = 'StartDate';
-  TaskKeyStatus = 'Status';
+  TaskKeyBody = 'Body';  // The task's text.
+  TaskKeyCreationDate = 'CreationDate';  // The day on which the item was made.
+  TaskKeyCreationTime = 'CreationTime';  // The time of day at which the item was made.
+  TaskKeyDueDate = 'DueDate';  // The day on which the task is due.
+  TaskKeyEntryID = 'EntryID';  // The item's identifier, for GetItem.
+  TaskKeyFolder = 'Folder';  // The name of the folder that the item is in.
+  TaskKeyModifiedDate = 'ModifiedDate';  // The day on which the item was last changed.
+  TaskKeyModifiedTime = 'ModifiedTime';  // The time of day at which the item was last changed.
+  TaskKeyPercentComplete = 'PercentComplete';  // How much of it is done, 0 to 100.
+  TaskKeyPriority = 'Priority';  // How important it is: low (0), normal (1) or high (2).
+  TaskKeyReminder = 'Reminder';  // Whether there is a reminder.
+  TaskKeyReminderDate = 'ReminderDate';  // The day of the reminder; writing sets its time too, but switches no reminder on.
+  TaskKeyReminderTime = 'ReminderTime';  // The time of day of the reminder.
+  TaskKeySubject = 'Subject';  // The subject.
+  TaskKeyStartDate = 'StartDate';  // The day on which the task begins.
+  TaskKeyStatus = 'Status';  // How far the task is, in English words.
 
-  { Keys of GetEmailProperty, for the current e-mail. }
-  EmailKeyAttachmentCount = 'Attachment Count';
-  EmailKeyAttachments = 'Attachments';
-  EmailKeyBCC = 'BCC';
-  EmailKeyBody = 'Body';
-  EmailKeyCC = 'CC';
-  EmailKeyClass = 'Class';
-  EmailKeyEntryID = 'EntryID';
-  EmailKeyHTMLBody = 'HTMLBody';
-  EmailKeyImportance = 'Importance';
-  EmailKeyParent = 'Parent';
-  EmailKeyReceivedDate = 'ReceivedDate';
-  EmailKeyReceivedTime = 'ReceivedTime';
-  EmailKeyRecipients = 'Recipients';
-  EmailKeySenderEmailAddress = 'SenderEmailAddress';
-  EmailKeySenderName = 'SenderName';
+  { Keys of GetEmailProperty, for the current mail. }
+  EmailKeyAttachmentCount = 'Attachment Count';  // How many attachments there are.
+  EmailKeyAttachments = 'Attachments';  // The names of the attachments.
+  EmailKeyBCC = 'BCC';  // Who gets a copy unseen by the others.
+  EmailKeyBody = 'Body';  // The mail's text without formatting.
+  EmailKeyCC = 'CC';  // Who gets a copy.
+  EmailKeyClass = 'Class';  // The item's class: an OlObjectClass number, 43 for a mail.
+  EmailKeyEntryID = 'EntryID';  // The item's identifier, for GetItem.
+  EmailKeyHTMLBody = 'HTMLBody';  // The mail's text as HTML.
+  EmailKeyImportance = 'Importance';  // How important it is: low (0), normal (1) or high (2).
+  EmailKeyParent = 'Parent';  // The name of the folder that the item is in.
+  EmailKeyReceivedDate = 'ReceivedDate';  // The day on which the mail came.
+  EmailKeyReceivedTime = 'ReceivedTime';  // The time of day at which the mail came.
+  EmailKeyRecipients = 'Recipients';  // The names of all recipients.
+  EmailKeySenderEmailAddress = 'SenderEmailAddress';  // The sender's mail address.
+  EmailKeySenderName = 'SenderName';  // The sender's name.
+  // Who is to see it: everyone (0), or it is personal (1), private (2) or confidential (3).
   EmailKeySensitivity = 'Sensitivity';
-  EmailKeySize = 'Size';
-  EmailKeySubject = 'Subject';
-  EmailKeyTo = 'To';
+  EmailKeySize = 'Size';  // The size in bytes.
+  EmailKeySubject = 'Subject';  // The subject.
+  EmailKeyTo = 'To';  // The recipients.
 
   { Keys of GetNoteProperty and SetNoteProperty, for the current note. }
-  NoteKeyBody = 'Body';
-  NoteKeyCategories = 'Categories';
-  NoteKeyClass = 'Class';
-  NoteKeyColor = 'Color';
-  NoteKeyCreationTime = 'CreationTime';
-  NoteKeyDownloadState = 'DownloadState';
-  NoteKeyEntryID = 'EntryID';
-  NoteKeyFolder = 'Folder';
-  NoteKeyHeight = 'Height';
-  NoteKeyIsConflict = 'IsConflict';
-  NoteKeyModifiedDate = 'ModifiedDate';
-  NoteKeyModifiedTime = 'ModifiedTime';
-  NoteKeyLeft = 'Left';
-  NoteKeyMarkForDownload = 'MarkForDownload';
-  NoteKeyMessageClass = 'MessageClass';
-  NoteKeyParent = 'Parent';
-  NoteKeySaved = 'Saved';
-  NoteKeySize = 'Size';
-  NoteKeySubject = 'Subject';
-  NoteKeyTop = 'Top';
-  NoteKeyWidth = 'Width';
+  NoteKeyBody = 'Body';  // The note's text, its first line being the subject.
+  NoteKeyCategories = 'Categories';  // The note's categories, separated as the user's settings have it.
+  NoteKeyClass = 'Class';  // The item's class: an OlObjectClass number, 44 for a note.
+  NoteKeyColor = 'Color';  // The colour: blue (0), green (1), pink (2), yellow (3) or white (4).
+  NoteKeyCreationTime = 'CreationTime';  // The time of day at which the item was made.
+  NoteKeyDownloadState = 'DownloadState';  // Whether only the header is here (0) or the whole item (1).
+  NoteKeyEntryID = 'EntryID';  // The item's identifier, for GetItem.
+  NoteKeyFolder = 'Folder';  // The name of the folder that the item is in.
+  NoteKeyHeight = 'Height';  // Height of the note's window, in pixels.
+  NoteKeyIsConflict = 'IsConflict';  // Whether the item is in conflict with another copy.
+  NoteKeyModifiedDate = 'ModifiedDate';  // The day on which the item was last changed.
+  NoteKeyModifiedTime = 'ModifiedTime';  // The time of day at which the item was last changed.
+  NoteKeyLeft = 'Left';  // Distance of the note's window from the left of the screen, in pixels.
+  NoteKeyMarkForDownload = 'MarkForDownload';  // Whether the item is to be fetched: an OlRemoteStatus number.
+  NoteKeyMessageClass = 'MessageClass';  // The item's message class, IPM.StickyNote.
+  NoteKeyParent = 'Parent';  // The name of the folder that the item is in, as Folder.
+  NoteKeySaved = 'Saved';  // Whether nothing was changed since the item was saved.
+  NoteKeySize = 'Size';  // The size in bytes.
+  NoteKeySubject = 'Subject';  // The subject: the text's first line.
+  NoteKeyTop = 'Top';  // Distance of the note's window from the top of the screen, in pixels.
+  NoteKeyWidth = 'Width';  // Width of the note's window, in pixels.
 
 type
   { The interfaces, in the order of their slots. What the members do stands with the records below. }
@@ -526,307 +541,463 @@ type
     destructor Destroy; override;
   end;
 
-  /// Drives Microsoft Word.
+  /// Drives Microsoft Word: opens and writes documents, searches them, prints and saves them.
   TZORBWord = record
     { The control itself, for calls by interface. }
     Control: IZORBWord;
     class function Create: TZORBWord; static;
-    /// <summary>Both classes publish the same forty members in the same slots; early-bound hosts rely on
-    /// it.</summary>
+    /// <summary>Starts a new Word and holds it.</summary>
+    /// <param name="Template">True places Word's window on the screen; False switches automatic numbering off.</param>
     function Start(Template: WordBool = False): Boolean;
-    /// <summary>Shows or hides the application (IsVisible: flag) and activates it.</summary>
+    /// <summary>Shows or hides Word, and brings it to the front.</summary>
+    /// <param name="IsVisible">True shows it, False hides it.</param>
     function SetVisible(IsVisible: WordBool): Boolean;
-    /// <summary>Activates the application, whatever IsActive (flag) says.</summary>
+    /// <summary>Brings Word to the front.</summary>
+    /// <param name="IsActive">Has no effect.</param>
     function SetActive(IsActive: WordBool): Boolean;
-    /// <summary>Opens the file Doc (path) and makes it the active document.</summary>
+    /// <summary>Opens a document and makes it the active one.</summary>
+    /// <param name="Doc">Path of the document.</param>
     function OpenDoc(Doc: WideString): Boolean;
-    /// <summary>Creates a document from the template Doc (path, optional, default "": the normal template)
-    /// and makes it the active document; the earlier one stays when that fails.</summary>
+    /// <summary>Makes a new document from a template, and makes it the active one.</summary>
+    /// <param name="Doc">Path of the template; an empty text means the normal one.</param>
     function CreateDoc(Doc: WideString = ''): Boolean;
-    /// <summary>Types Text at the selection.</summary>
+    /// <summary>Types a text at the selection.</summary>
+    /// <param name="Text">The text to type.</param>
     function SendText(Text: WideString): Boolean;
-    /// <summary>Reads the document's text from character StartPos to EndPos, counted from 0. A start of 0 or
-    /// less with an end means 1, so the first character is left out; an end of 0 or less means the text's
-    /// length; both 0 or less read all sections' texts, joined.</summary>
+    /// <summary>Reads the document's text, or a part of it.</summary>
+    /// <param name="StartPos">First character, counted from 0; both positions 0 mean the whole text.</param>
+    /// <param name="EndPos">Character after the last one; 0 means the end.</param>
     function ReadText(StartPos: Integer; EndPos: Integer): WideString;
-    /// <summary>Switches the redrawing of the application's windows (Update: flag).</summary>
+    /// <summary>Switches the redrawing of Word's windows on or off.</summary>
+    /// <param name="Update">True redraws, False does not.</param>
     function SetScreenUpdating(Update: WordBool): Boolean;
-    /// <summary>Finds SearchString and selects it.</summary>
+    /// <summary>Finds a text and selects it.</summary>
+    /// <param name="SearchString">The text to find.</param>
+    /// <param name="WrapAction">What to do at the end of the text: stop (0), go on at its other end (1), or ask
+    /// (2).</param>
+    /// <param name="SearchForward">True searches towards the end, False towards the start.</param>
+    /// <param name="BeginAtTop">True moves to the start of the document before it searches.</param>
+    /// <param name="MatchCase">True tells capital letters from small ones.</param>
+    /// <param name="MatchWholeWord">True finds whole words only.</param>
+    /// <param name="MatchWildcards">True reads the text that is searched for as a pattern.</param>
+    /// <param name="MatchSoundsLike">True also finds words that sound alike.</param>
+    /// <param name="MatchAllWordForms">True also finds the other forms of the words.</param>
     function Search(SearchString: WideString; WrapAction: Byte = wdFindContinue;
         SearchForward: WordBool = True; BeginAtTop: WordBool = False; MatchCase: WordBool = False;
         MatchWholeWord: WordBool = False; MatchWildcards: WordBool = False; MatchSoundsLike: WordBool = False;
         MatchAllWordForms: WordBool = False): Boolean;
-    /// <summary>Returns 1 when the selection is in a table.</summary>
+    /// <summary>Tells whether the selection is in a table.</summary>
     function InTable: Boolean;
-    /// <summary>Selects the row of the table in which the selection is.</summary>
+    /// <summary>Selects the table row that the selection is in.</summary>
     procedure SelectRow;
-    /// <summary>Finds SearchString from the selection on and replaces it by ReplaceString.</summary>
+    /// <summary>Finds a text from the selection on and replaces it.</summary>
+    /// <param name="SearchString">The text to find.</param>
+    /// <param name="ReplaceString">The text to put in its place.</param>
+    /// <param name="WrapAction">What to do at the end of the text: stop (0), go on at its other end (1), or ask
+    /// (2).</param>
+    /// <param name="SearchForward">True searches towards the end, False towards the start.</param>
+    /// <param name="BeginAtTop">Has no effect.</param>
+    /// <param name="MatchCase">True tells capital letters from small ones.</param>
+    /// <param name="MatchWholeWord">True finds whole words only.</param>
+    /// <param name="MatchWildcards">True reads the text that is searched for as a pattern.</param>
+    /// <param name="MatchSoundsLike">True also finds words that sound alike.</param>
+    /// <param name="MatchAllWordForms">True also finds the other forms of the words.</param>
+    /// <param name="ReplaceOption">How many to replace: none (0), the first one (1), or all (2).</param>
     function Replace(SearchString: WideString; ReplaceString: WideString; WrapAction: Byte = wdFindContinue;
         SearchForward: WordBool = True; BeginAtTop: WordBool = True; MatchCase: WordBool = False;
         MatchWholeWord: WordBool = False; MatchWildcards: WordBool = False; MatchSoundsLike: WordBool = False;
         MatchAllWordForms: WordBool = False; ReplaceOption: Byte = wdReplaceOne): Boolean;
-    /// <summary>Returns the number of sections of the active document.</summary>
+    /// <summary>Counts the sections of the active document.</summary>
     function NumberOfSections: Integer;
-    /// <summary>Reads a header's (IsHeader true) or footer's text of Section (counted from 1).</summary>
+    /// <summary>Reads the text of a header or footer, or a part of it.</summary>
+    /// <param name="Section">The section, counted from 1.</param>
+    /// <param name="IsHeader">True means the header, False the footer.</param>
+    /// <param name="HeaderFooterType">Of which pages: all others (1), the first (2), or even ones (3).</param>
+    /// <param name="StartPos">First character, counted from 0; both positions 0 mean the whole text.</param>
+    /// <param name="EndPos">Character after the last one; 0 means the end.</param>
     function ReadHeaderFooterText(Section: Integer; IsHeader: WordBool; HeaderFooterType: Byte;
         StartPos: Integer; EndPos: Integer): WideString;
-    /// <summary>Copies headers, footers and the normal style's font, each if chosen, from SourceTemplate to
-    /// DestTemplate (paths; empty or "Normal": the application's template), and saves the latter.</summary>
+    /// <summary>Copies headers, footers and the normal font from one document to another, and saves that.</summary>
+    /// <param name="SourceTemplate">Path of the document to copy from; an empty text means the normal template.</param>
+    /// <param name="DestTemplate">Path of the document to change; an empty text means the normal template.</param>
+    /// <param name="ApplyHeader">True copies the headers.</param>
+    /// <param name="ApplyFooter">True copies the footers.</param>
+    /// <param name="ApplyFont">True copies the normal style's font.</param>
     function SetHeaderFooter(SourceTemplate: WideString; DestTemplate: WideString; ApplyHeader: WordBool;
         ApplyFooter: WordBool; ApplyFont: WordBool): Boolean;
-    /// <summary>Replace, within one header or footer, named as in ReadHeaderFooterText; in one that does not
-    /// exist nothing is found.</summary>
+    /// <summary>Finds a text in a header or footer and replaces it.</summary>
+    /// <param name="Section">The section, counted from 1.</param>
+    /// <param name="IsHeader">True means the header, False the footer.</param>
+    /// <param name="HeaderFooterType">Of which pages: all others (1), the first (2), or even ones (3).</param>
+    /// <param name="SearchString">The text to find.</param>
+    /// <param name="ReplaceString">The text to put in its place.</param>
+    /// <param name="WrapAction">What to do at the end of the text: stop (0), go on at its other end (1), or ask
+    /// (2).</param>
+    /// <param name="SearchForward">True searches towards the end, False towards the start.</param>
+    /// <param name="BeginAtTop">Has no effect.</param>
+    /// <param name="MatchCase">True tells capital letters from small ones.</param>
+    /// <param name="MatchWholeWord">True finds whole words only.</param>
+    /// <param name="MatchWildcards">True reads the text that is searched for as a pattern.</param>
+    /// <param name="MatchSoundsLike">True also finds words that sound alike.</param>
+    /// <param name="MatchAllWordForms">True also finds the other forms of the words.</param>
+    /// <param name="ReplaceOption">How many to replace: none (0), the first one (1), or all (2).</param>
     function ReplaceHeaderFooter(Section: Integer; IsHeader: WordBool; HeaderFooterType: Byte;
         SearchString: WideString; ReplaceString: WideString; WrapAction: Byte = wdFindContinue;
         SearchForward: WordBool = True; BeginAtTop: WordBool = True; MatchCase: WordBool = False;
         MatchWholeWord: WordBool = False; MatchWildcards: WordBool = False; MatchSoundsLike: WordBool = False;
         MatchAllWordForms: WordBool = False; ReplaceOption: Byte = wdReplaceOne): Boolean;
-    /// <summary>Returns the number of cells of the selection's first row.</summary>
+    /// <summary>Counts the cells of the selection's first table row.</summary>
     function CellCount: Integer;
-    /// <summary>Returns the text of cell CellId (counted from 1) of the selection's first row, its
-    /// end-of-cell mark included.</summary>
+    /// <summary>Reads a cell of the selection's first table row.</summary>
+    /// <param name="CellId">The cell, counted from 1.</param>
     function CellText(CellId: Integer): WideString;
     /// <summary>Cuts the selection to the clipboard.</summary>
     procedure Cut;
     /// <summary>Selects the paragraph in which the selection starts.</summary>
     procedure SelectParagraph;
-    /// <summary>Returns the selected text, "" on failure.</summary>
+    /// <summary>Reads the selected text.</summary>
     function SelectionText: WideString;
     /// <summary>Pastes the clipboard at the selection.</summary>
     procedure Paste;
-    /// <summary>Moves the insertion point left by Units units.</summary>
+    /// <summary>Moves the insertion point to the left.</summary>
+    /// <param name="Units">How many units to move.</param>
+    /// <param name="Unit_">By what to move: a WdUnits number.</param>
+    /// <param name="Selecting">Whether to extend the selection (1) or only to move (0).</param>
     procedure CursorLeft(Units: SmallInt; Unit_: SmallInt = wdCharacter; Selecting: SmallInt = wdMove);
-    /// <summary>CursorLeft to the right.</summary>
+    /// <summary>Moves the insertion point to the right.</summary>
+    /// <param name="Units">How many units to move.</param>
+    /// <param name="Unit_">By what to move: a WdUnits number.</param>
+    /// <param name="Selecting">Whether to extend the selection (1) or only to move (0).</param>
     procedure CursorRight(Units: SmallInt; Unit_: SmallInt = wdCharacter; Selecting: SmallInt = wdMove);
     /// <summary>Moves the insertion point to the start of its paragraph.</summary>
     procedure CursorStartOfParagraph;
-    /// <summary>Moves the insertion point to the start of its cell.</summary>
+    /// <summary>Moves the insertion point to the start of its table cell.</summary>
     procedure CursorStartOfCell;
-    /// <summary>Moves the insertion point to the end of its cell.</summary>
+    /// <summary>Moves the insertion point to the end of its table cell.</summary>
     procedure CursorEndOfCell;
     /// <summary>Moves the insertion point to the end of its paragraph.</summary>
     procedure CursorEndOfParagraph;
-    /// <summary>Collapses the selection and moves it by Units units of Unit (a wdUnits value).</summary>
+    /// <summary>Collapses the selection and moves it.</summary>
+    /// <param name="Unit_">By what to move: a WdUnits number.</param>
+    /// <param name="Units">How many units to move; a negative number moves back.</param>
     procedure Move(Unit_: SmallInt; Units: SmallInt);
     /// <summary>Updates the document's styles and parts it from its template.</summary>
     procedure FinaliseDoc;
-    /// <summary>Saves the document, as Docname (path, optional) when that is not empty.</summary>
+    /// <summary>Saves the document, under a new name where one is given.</summary>
+    /// <param name="Docname">Path to save as; an empty text keeps the name.</param>
     procedure SaveDoc(Docname: WideString = '');
-    /// <summary>Prints the document to the first installed printer whose name contains "PDF", in capitals,
-    /// and returns true; false when there is none.</summary>
+    /// <summary>Prints the document to the first printer whose name has PDF in it.</summary>
     function SaveDocAsPDF: Boolean;
-    /// <summary>Closes the document and lets go of it.</summary>
+    /// <summary>Closes the document.</summary>
+    /// <param name="SaveOption">What to do with changes: drop them (0), save them (-1), or ask (-2).</param>
     procedure CloseDoc(SaveOption: SmallInt = wdDoNotSaveChanges);
-    /// <summary>Quits the application and lets go of it: with Force (flag, optional) always, otherwise only
-    /// when no document is open.</summary>
+    /// <summary>Quits the application.</summary>
+    /// <param name="Force">True quits also while documents are open.</param>
     procedure StopWord(Force: WordBool = False);
-    /// <summary>Prints Copies copies of the document, then lets the host's pending window messages run
-    /// once.</summary>
+    /// <summary>Prints the document.</summary>
+    /// <param name="Copies">How many copies.</param>
+    /// <param name="Background">Has no effect.</param>
     procedure PrintDoc(Copies: SmallInt; Background: WordBool = False);
-    /// <summary>Returns how many documents are being printed or saved in the background, 0 when
-    /// none.</summary>
+    /// <summary>Counts the documents that are being printed or saved in the background.</summary>
     function IsPrinting: SmallInt;
-    /// <summary>Returns the application's default folder PathId (a wdDefaultFilePath value), "" on
-    /// failure.</summary>
+    /// <summary>Reads one of the default folders.</summary>
+    /// <param name="PathId">Which folder: a WdDefaultFilePath number.</param>
     function GetDefaultPaths(PathId: SmallInt): WideString;
-    /// <summary>Moves the insertion point to line LineNo, counted from 1; returns true, or false on
-    /// failure.</summary>
+    /// <summary>Moves the insertion point to a line.</summary>
+    /// <param name="LineNo">The line, counted from 1.</param>
     function GotoLine(LineNo: SmallInt): Boolean;
-    /// <summary>Returns the number of the last recorded failure: always 0, because no member of these classes
-    /// records.</summary>
+    /// <summary>Reads the number of the last recorded failure: always 0.</summary>
     function GetLastErrorNumber: Integer;
-    /// <summary>Returns the description of the last recorded failure: always "".</summary>
+    /// <summary>Reads the text of the last recorded failure: always empty.</summary>
     function GetLastErrorDescription: WideString;
   end;
 
-  /// Drives Microsoft Outlook.
+  /// Drives Microsoft Outlook: walks, reads and writes its items, and makes mails.
   TZORBOutlook = record
     { The control itself, for calls by interface. }
     Control: IZORBOutlook;
     class function Create: TZORBOutlook; static;
-    /// <summary>All parameters are passed by value, but for NewEmail's.</summary>
+    /// <summary>Starts a session with Outlook.</summary>
     function StartOutlook: Boolean;
-    /// <summary>Ends the work; quits Outlook only when Force (optional, default false) is true.</summary>
+    /// <summary>Ends the work, and quits Outlook where that is asked for.</summary>
+    /// <param name="Force">True quits Outlook, the user's own too.</param>
     function StopOutlook(Force: WordBool = False): Boolean;
-    /// <summary>Composes one mail, and sends (AutoSend) or shows it.</summary>
+    /// <summary>Makes one mail from its parts, and sends it or shows it; always answers False.</summary>
+    /// <param name="Template">Has no effect.</param>
+    /// <param name="ToAddress">Addresses of the recipients, separated by semicolons.</param>
+    /// <param name="CCAddress">Addresses of those who get a copy.</param>
+    /// <param name="BCCAddress">Addresses of those who get a copy unseen by the others.</param>
+    /// <param name="Subject">The subject.</param>
+    /// <param name="Content">The mail's text.</param>
+    /// <param name="UseHTML">True takes the text for HTML.</param>
+    /// <param name="AutoSend">True sends the mail and quits Outlook; False shows it.</param>
+    /// <param name="Attachment">Paths of files, separated by semicolons; the variable is used up, so hand over a
+    /// copy.</param>
     function NewEmail(Template: WideString; ToAddress: WideString; CCAddress: WideString;
         BCCAddress: WideString; Subject: WideString; Content: WideString; UseHTML: WordBool;
         AutoSend: WordBool; Attachment: WideString): Boolean;
-    /// <summary>Shows the current item of the entry type in Outlook's own window.</summary>
+    /// <summary>Shows the current item in Outlook's own window.</summary>
+    /// <param name="EntryType">The kind of item: Appointment, Contact, Note, Task or Email.</param>
     function OpenItem(EntryType: WideString): Boolean;
-    /// <summary>Fills the entry type's collection from its default folder, restricted by Condition unless
-    /// that is empty, sorted.</summary>
+    /// <summary>Takes the items of the entry type's default folder, those that a condition names, for a walk.</summary>
+    /// <param name="EntryType">The kind of item: Appointment, Contact, Note, Task or Email.</param>
+    /// <param name="Condition">A condition in Outlook's own form, as [Complete] = False; an empty text takes
+    /// all.</param>
     function InitItems(EntryType: WideString; Condition: WideString): Boolean;
-    /// <summary>Makes a new, unsaved item current.</summary>
+    /// <summary>Makes a new item, unsaved, the current one.</summary>
+    /// <param name="EntryType">The kind of item: Appointment, Contact, Note, Task or Email.</param>
     function CreateItem(EntryType: WideString): Boolean;
     /// <summary>Deletes the current item.</summary>
+    /// <param name="EntryType">The kind of item: Appointment, Contact, Note, Task or Email.</param>
     function DeleteItem(EntryType: WideString): Boolean;
-    /// <summary>Makes the item with the identifier EntryId current.</summary>
+    /// <summary>Makes the item with a certain identifier the current one.</summary>
+    /// <param name="EntryType">The kind of item: Appointment, Contact, Note, Task or Email.</param>
+    /// <param name="EntryId">The identifier: what the key EntryID reads.</param>
     function GetItem(EntryType: WideString; EntryId: WideString): Boolean;
-    /// <summary>Makes the current appointment's occurrence of EntryDate (date text in the user's locale)
-    /// current.</summary>
+    /// <summary>Makes one day's occurrence of the current appointment the current one.</summary>
+    /// <param name="EntryDate">The day of the occurrence, with the time at which it begins, in the user's own order or
+    /// as year-month-day.</param>
     function GetAppointmentInstance(EntryDate: WideString): Boolean;
     /// <summary>Saves the current item.</summary>
+    /// <param name="EntryType">The kind of item: Appointment, Contact, Note, Task or Email.</param>
     function SaveItem(EntryType: WideString): Boolean;
-    /// <summary>Exports the current item to FileName (path) in Outlook's default format.</summary>
+    /// <summary>Writes the current item to a file, in Outlook's own format.</summary>
+    /// <param name="EntryType">The kind of item: Appointment, Contact, Note, Task or Email.</param>
+    /// <param name="FileName">Path of the file to write.</param>
     function SaveItemToFile(EntryType: WideString; FileName: WideString): Boolean;
-    /// <summary>Saves an attachment of the current e-mail to FileName (path).</summary>
+    /// <summary>Writes an attachment of the current mail to a file.</summary>
+    /// <param name="AttachmentNo">The attachment, counted from 1 among those that the text does not name.</param>
+    /// <param name="FileName">Path of the file to write.</param>
     function SaveEmailAttachment(AttachmentNo: SmallInt; FileName: WideString): Boolean;
-    /// <summary>Returns the number of items in the entry type's collection, 0 on failure and above
-    /// 32767.</summary>
+    /// <summary>Counts the items that InitItems took.</summary>
+    /// <param name="EntryType">The kind of item: Appointment, Contact, Note, Task or Email.</param>
     function GetItemCount(EntryType: WideString): SmallInt;
-    /// <summary>Makes the collection's first item of the entry type's class current; false when there is
-    /// none.</summary>
+    /// <summary>Makes the first of the items that InitItems took the current one.</summary>
+    /// <param name="EntryType">The kind of item: Appointment, Contact, Note, Task or Email.</param>
     function GetFirstItem(EntryType: WideString): Boolean;
-    /// <summary>Makes the collection's next item of the entry type's class current; false at the
-    /// end.</summary>
+    /// <summary>Makes the next of the items that InitItems took the current one.</summary>
+    /// <param name="EntryType">The kind of item: Appointment, Contact, Note, Task or Email.</param>
     function GetNextItem(EntryType: WideString): Boolean;
-    /// <summary>Returns the current appointment's property AppProp as text.</summary>
+    /// <summary>Reads a property of the current appointment, as text.</summary>
+    /// <param name="AppProp">The key of a property of the appointment.</param>
     function GetAppointmentProperty(AppProp: WideString): WideString;
-    /// <summary>Converts PropertyValue and writes it to the current appointment's property AppProp.</summary>
+    /// <summary>Writes a property of the current appointment, from text.</summary>
+    /// <param name="AppProp">The key of a property of the appointment.</param>
+    /// <param name="PropertyValue">The value as text.</param>
     function SetAppointmentProperty(AppProp: WideString; PropertyValue: WideString): Boolean;
-    /// <summary>Takes the current appointment's recurrence pattern into the control.</summary>
+    /// <summary>Takes the current appointment's recurrence pattern, for the members that read and write it.</summary>
     function GetRecurrencePattern: Boolean;
     /// <summary>Makes the current appointment a single one.</summary>
     function ClearRecurrencePattern: Boolean;
-    /// <summary>Returns the recurrence pattern's property RecurProp as text.</summary>
+    /// <summary>Reads a property of the recurrence pattern, as text.</summary>
+    /// <param name="RecurProp">The key of a property of the recurrence pattern.</param>
     function GetRecurrenceProperty(RecurProp: WideString): WideString;
-    /// <summary>Converts PropertyValue and writes it to the recurrence pattern's property
-    /// RecurProp.</summary>
+    /// <summary>Writes a property of the recurrence pattern, from text; always answers an empty text.</summary>
+    /// <param name="RecurProp">The key of a property of the recurrence pattern.</param>
+    /// <param name="PropertyValue">The value as text.</param>
     function SetRecurrenceProperty(RecurProp: WideString; PropertyValue: WideString): WideString;
-    /// <summary>Returns the property ExceptProp of the pattern's exception Instance (counted from 1) as
-    /// text.</summary>
+    /// <summary>Reads a property of one exception of the recurrence pattern, as text.</summary>
+    /// <param name="Instance">The exception, counted from 1.</param>
+    /// <param name="ExceptProp">The key of a property of the exception.</param>
     function GetExceptionProperty(Instance: SmallInt; ExceptProp: WideString): WideString;
-    /// <summary>Returns the current contact's property ContactProp as text.</summary>
+    /// <summary>Reads a property of the current contact, as text.</summary>
+    /// <param name="ContactProp">The key of a property of the contact.</param>
     function GetContactProperty(ContactProp: WideString): WideString;
-    /// <summary>Writes PropertyValue to the current contact's property ContactProp.</summary>
+    /// <summary>Writes a property of the current contact, from text.</summary>
+    /// <param name="ContactProp">The key of a property of the contact.</param>
+    /// <param name="PropertyValue">The value as text.</param>
     function SetContactProperty(ContactProp: WideString; PropertyValue: WideString): Boolean;
-    /// <summary>Returns the current task's property TaskProp as text.</summary>
+    /// <summary>Reads a property of the current task, as text.</summary>
+    /// <param name="TaskProp">The key of a property of the task.</param>
     function GetTaskProperty(TaskProp: WideString): WideString;
-    /// <summary>Converts PropertyValue and writes it to the current task's property TaskProperty.</summary>
+    /// <summary>Writes a property of the current task, from text.</summary>
+    /// <param name="TaskProperty">The key of a property of the task.</param>
+    /// <param name="PropertyValue">The value as text.</param>
     function SetTaskProperty(TaskProperty: WideString; PropertyValue: WideString): Boolean;
-    /// <summary>Returns the current e-mail's property EmailProp as text.</summary>
+    /// <summary>Reads a property of the current mail, as text.</summary>
+    /// <param name="EmailProp">The key of a property of the mail.</param>
     function GetEmailProperty(EmailProp: WideString): WideString;
-    /// <summary>Returns the current note's property NoteProperty as text.</summary>
+    /// <summary>Reads a property of the current note, as text.</summary>
+    /// <param name="NoteProperty">The key of a property of the note.</param>
     function GetNoteProperty(NoteProperty: WideString): WideString;
-    /// <summary>Converts PropertyValue and writes it to the current note's property NoteProperty.</summary>
+    /// <summary>Writes a property of the current note, from text.</summary>
+    /// <param name="NoteProperty">The key of a property of the note.</param>
+    /// <param name="PropertyValue">The value as text.</param>
     function SetNoteProperty(NoteProperty: WideString; PropertyValue: WideString): Boolean;
-    /// <summary>Returns the number of the last recorded failure, 0 before any.</summary>
+    /// <summary>Reads the number of the last recorded failure, 0 before any.</summary>
     function GetLastErrorNumber: SmallInt;
-    /// <summary>Returns the description of the last recorded failure, "" before any.</summary>
+    /// <summary>Reads the text of the last recorded failure, empty before any.</summary>
     function GetLastErrorDescription: WideString;
   end;
 
-  /// Drives an office suite.
+  /// Drives an office suite with the members of ZORBWord: opens, reads and searches documents.
   TOpenWriter = record
     { The control itself, for calls by interface. }
     Control: IOpenWriter;
     class function Create: TOpenWriter; static;
-    /// <summary>Both classes publish the same forty members in the same slots; early-bound hosts rely on
-    /// it.</summary>
+    /// <summary>Starts the office suite and holds its service manager and its desktop.</summary>
+    /// <param name="Template">True also asks for a window in a certain place, which fails; False does nothing
+    /// more.</param>
     function Start(Template: WordBool = False): Boolean;
-    /// <summary>Shows or hides the application (IsVisible: flag) and activates it.</summary>
+    /// <summary>Does nothing: the suite decides itself what it shows.</summary>
+    /// <param name="IsVisible">Has no effect.</param>
     function SetVisible(IsVisible: WordBool): Boolean;
-    /// <summary>Activates the application, whatever IsActive (flag) says.</summary>
+    /// <summary>Does nothing: the suite decides itself what is in front.</summary>
+    /// <param name="IsActive">Has no effect.</param>
     function SetActive(IsActive: WordBool): Boolean;
-    /// <summary>Opens the file Doc (path) and makes it the active document.</summary>
+    /// <summary>Loads a document into the suite and makes it the active one.</summary>
+    /// <param name="Doc">Path of the document.</param>
     function OpenDoc(Doc: WideString): Boolean;
-    /// <summary>Creates a document from the template Doc (path, optional, default "": the normal template)
-    /// and makes it the active document; the earlier one stays when that fails.</summary>
+    /// <summary>Loads a new document from a template into the suite, and makes it the active one.</summary>
+    /// <param name="Doc">Path of the template; an empty text means the normal one.</param>
     function CreateDoc(Doc: WideString = ''): Boolean;
-    /// <summary>Types Text at the selection.</summary>
+    /// <summary>Types a text at the selection.</summary>
+    /// <param name="Text">The text to type.</param>
     function SendText(Text: WideString): Boolean;
-    /// <summary>Reads the document's text from character StartPos to EndPos, counted from 0. A start of 0 or
-    /// less with an end means 1, so the first character is left out; an end of 0 or less means the text's
-    /// length; both 0 or less read all sections' texts, joined.</summary>
+    /// <summary>Reads the document's whole text.</summary>
+    /// <param name="StartPos">Has no effect.</param>
+    /// <param name="EndPos">Has no effect.</param>
     function ReadText(StartPos: Integer; EndPos: Integer): WideString;
-    /// <summary>Switches the redrawing of the application's windows (Update: flag).</summary>
+    /// <summary>Does nothing: the suite redraws as it likes.</summary>
+    /// <param name="Update">Has no effect.</param>
     function SetScreenUpdating(Update: WordBool): Boolean;
-    /// <summary>Finds SearchString and selects it.</summary>
+    /// <summary>Shows the text to find in a box, and tells whether the document holds it.</summary>
+    /// <param name="SearchString">The text to find.</param>
+    /// <param name="WrapAction">Has no effect.</param>
+    /// <param name="SearchForward">Has no effect.</param>
+    /// <param name="BeginAtTop">Has no effect.</param>
+    /// <param name="MatchCase">Has no effect.</param>
+    /// <param name="MatchWholeWord">Has no effect.</param>
+    /// <param name="MatchWildcards">True reads the text that is searched for as a regular expression.</param>
+    /// <param name="MatchSoundsLike">Has no effect.</param>
+    /// <param name="MatchAllWordForms">Has no effect.</param>
     function Search(SearchString: WideString; WrapAction: Byte = wdFindContinue;
         SearchForward: WordBool = True; BeginAtTop: WordBool = False; MatchCase: WordBool = False;
         MatchWholeWord: WordBool = False; MatchWildcards: WordBool = False; MatchSoundsLike: WordBool = False;
         MatchAllWordForms: WordBool = False): Boolean;
-    /// <summary>Returns 1 when the selection is in a table.</summary>
+    /// <summary>Tells whether the selection is in a table.</summary>
     function InTable: Boolean;
-    /// <summary>Selects the row of the table in which the selection is.</summary>
+    /// <summary>Selects the table row that the selection is in.</summary>
     procedure SelectRow;
-    /// <summary>Finds SearchString from the selection on and replaces it by ReplaceString.</summary>
+    /// <summary>Finds a text from the selection on and replaces it.</summary>
+    /// <param name="SearchString">The text to find.</param>
+    /// <param name="ReplaceString">The text to put in its place.</param>
+    /// <param name="WrapAction">What to do at the end of the text: stop (0), go on at its other end (1), or ask
+    /// (2).</param>
+    /// <param name="SearchForward">True searches towards the end, False towards the start.</param>
+    /// <param name="BeginAtTop">Has no effect.</param>
+    /// <param name="MatchCase">True tells capital letters from small ones.</param>
+    /// <param name="MatchWholeWord">True finds whole words only.</param>
+    /// <param name="MatchWildcards">True reads the text that is searched for as a pattern.</param>
+    /// <param name="MatchSoundsLike">True also finds words that sound alike.</param>
+    /// <param name="MatchAllWordForms">True also finds the other forms of the words.</param>
+    /// <param name="ReplaceOption">How many to replace: none (0), the first one (1), or all (2).</param>
     function Replace(SearchString: WideString; ReplaceString: WideString; WrapAction: Byte = wdFindContinue;
         SearchForward: WordBool = True; BeginAtTop: WordBool = True; MatchCase: WordBool = False;
         MatchWholeWord: WordBool = False; MatchWildcards: WordBool = False; MatchSoundsLike: WordBool = False;
         MatchAllWordForms: WordBool = False; ReplaceOption: Byte = wdReplaceOne): Boolean;
-    /// <summary>Returns the number of sections of the active document.</summary>
+    /// <summary>Counts the sections of the active document.</summary>
     function NumberOfSections: Integer;
-    /// <summary>Reads a header's (IsHeader true) or footer's text of Section (counted from 1).</summary>
+    /// <summary>Reads the text of a header or footer, or a part of it.</summary>
+    /// <param name="Section">The section, counted from 1.</param>
+    /// <param name="IsHeader">True means the header, False the footer.</param>
+    /// <param name="HeaderFooterType">Of which pages: all others (1), the first (2), or even ones (3).</param>
+    /// <param name="StartPos">First character, counted from 0; both positions 0 mean the whole text.</param>
+    /// <param name="EndPos">Character after the last one; 0 means the end.</param>
     function ReadHeaderFooterText(Section: Integer; IsHeader: WordBool; HeaderFooterType: Byte;
         StartPos: Integer; EndPos: Integer): WideString;
-    /// <summary>Copies headers, footers and the normal style's font, each if chosen, from SourceTemplate to
-    /// DestTemplate (paths; empty or "Normal": the application's template), and saves the latter.</summary>
+    /// <summary>Copies headers, footers and the normal font from one document to another, and saves that.</summary>
+    /// <param name="SourceTemplate">Path of the document to copy from; an empty text means the normal template.</param>
+    /// <param name="DestTemplate">Path of the document to change; an empty text means the normal template.</param>
+    /// <param name="ApplyHeader">True copies the headers.</param>
+    /// <param name="ApplyFooter">True copies the footers.</param>
+    /// <param name="ApplyFont">True copies the normal style's font.</param>
     function SetHeaderFooter(SourceTemplate: WideString; DestTemplate: WideString; ApplyHeader: Byte;
         ApplyFooter: Byte; ApplyFont: Byte): Boolean;
-    /// <summary>Replace, within one header or footer, named as in ReadHeaderFooterText; in one that does not
-    /// exist nothing is found.</summary>
+    /// <summary>Finds a text in a header or footer and replaces it.</summary>
+    /// <param name="Section">The section, counted from 1.</param>
+    /// <param name="IsHeader">True means the header, False the footer.</param>
+    /// <param name="HeaderFooterType">Of which pages: all others (1), the first (2), or even ones (3).</param>
+    /// <param name="SearchString">The text to find.</param>
+    /// <param name="ReplaceString">The text to put in its place.</param>
+    /// <param name="WrapAction">What to do at the end of the text: stop (0), go on at its other end (1), or ask
+    /// (2).</param>
+    /// <param name="SearchForward">True searches towards the end, False towards the start.</param>
+    /// <param name="BeginAtTop">Has no effect.</param>
+    /// <param name="MatchCase">True tells capital letters from small ones.</param>
+    /// <param name="MatchWholeWord">True finds whole words only.</param>
+    /// <param name="MatchWildcards">True reads the text that is searched for as a pattern.</param>
+    /// <param name="MatchSoundsLike">True also finds words that sound alike.</param>
+    /// <param name="MatchAllWordForms">True also finds the other forms of the words.</param>
+    /// <param name="ReplaceOption">How many to replace: none (0), the first one (1), or all (2).</param>
     function ReplaceHeaderFooter(Section: Integer; IsHeader: WordBool; HeaderFooterType: Byte;
         SearchString: WideString; ReplaceString: WideString; WrapAction: Byte = wdFindContinue;
         SearchForward: WordBool = True; BeginAtTop: WordBool = True; MatchCase: WordBool = False;
         MatchWholeWord: WordBool = False; MatchWildcards: WordBool = False; MatchSoundsLike: WordBool = False;
         MatchAllWordForms: WordBool = False; ReplaceOption: Byte = wdReplaceOne): Boolean;
-    /// <summary>Returns the number of cells of the selection's first row.</summary>
+    /// <summary>Counts the cells of the selection's first table row.</summary>
     function CellCount: Integer;
-    /// <summary>Returns the text of cell CellId (counted from 1) of the selection's first row, its
-    /// end-of-cell mark included.</summary>
+    /// <summary>Reads a cell of the selection's first table row.</summary>
+    /// <param name="CellId">The cell, counted from 1.</param>
     function CellText(CellId: Integer): WideString;
     /// <summary>Cuts the selection to the clipboard.</summary>
     procedure Cut;
     /// <summary>Selects the paragraph in which the selection starts.</summary>
     procedure SelectParagraph;
-    /// <summary>Returns the selected text, "" on failure.</summary>
+    /// <summary>Reads the selected text.</summary>
     function SelectionText: WideString;
     /// <summary>Pastes the clipboard at the selection.</summary>
     procedure Paste;
-    /// <summary>Moves the insertion point left by Units units.</summary>
+    /// <summary>Moves the insertion point to the left.</summary>
+    /// <param name="Units">How many units to move.</param>
+    /// <param name="Unit_">By what to move: a WdUnits number.</param>
+    /// <param name="Selecting">Whether to extend the selection (1) or only to move (0).</param>
     procedure CursorLeft(Units: SmallInt; Unit_: SmallInt = wdCharacter; Selecting: SmallInt = wdMove);
-    /// <summary>CursorLeft to the right.</summary>
+    /// <summary>Moves the insertion point to the right.</summary>
+    /// <param name="Units">How many units to move.</param>
+    /// <param name="Unit_">By what to move: a WdUnits number.</param>
+    /// <param name="Selecting">Whether to extend the selection (1) or only to move (0).</param>
     procedure CursorRight(Units: SmallInt; Unit_: SmallInt = wdCharacter; Selecting: SmallInt = wdMove);
     /// <summary>Moves the insertion point to the start of its paragraph.</summary>
     procedure CursorStartOfParagraph;
-    /// <summary>Moves the insertion point to the start of its cell.</summary>
+    /// <summary>Moves the insertion point to the start of its table cell.</summary>
     procedure CursorStartOfCell;
-    /// <summary>Moves the insertion point to the end of its cell.</summary>
+    /// <summary>Moves the insertion point to the end of its table cell.</summary>
     procedure CursorEndOfCell;
     /// <summary>Moves the insertion point to the end of its paragraph.</summary>
     procedure CursorEndOfParagraph;
-    /// <summary>Collapses the selection and moves it by Units units of Unit (a wdUnits value).</summary>
+    /// <summary>Collapses the selection and moves it.</summary>
+    /// <param name="Unit_">By what to move: a WdUnits number.</param>
+    /// <param name="Units">How many units to move; a negative number moves back.</param>
     procedure Move(Unit_: SmallInt; Units: SmallInt);
     /// <summary>Updates the document's styles and parts it from its template.</summary>
     procedure FinaliseDoc;
-    /// <summary>Saves the document, as Docname (path, optional) when that is not empty.</summary>
+    /// <summary>Saves the document, under a new name where one is given.</summary>
+    /// <param name="Docname">Path to save as; an empty text keeps the name.</param>
     procedure SaveDoc(Docname: WideString = '');
-    /// <summary>Prints the document to the first installed printer whose name contains "PDF", in capitals,
-    /// and returns true; false when there is none.</summary>
+    /// <summary>Prints the document to the first printer whose name has PDF in it.</summary>
     function SaveDocAsPDF: Boolean;
-    /// <summary>Closes the document and lets go of it.</summary>
+    /// <summary>Closes the document.</summary>
+    /// <param name="SaveOption">What to do with changes: drop them (0), save them (-1), or ask (-2).</param>
     procedure CloseDoc(SaveOption: SmallInt = wdDoNotSaveChanges);
-    /// <summary>Quits the application and lets go of it: with Force (flag, optional) always, otherwise only
-    /// when no document is open.</summary>
+    /// <summary>Quits the application.</summary>
+    /// <param name="Force">True quits also while documents are open.</param>
     procedure StopWord(Force: WordBool = False);
-    /// <summary>Prints Copies copies of the document, then lets the host's pending window messages run
-    /// once.</summary>
+    /// <summary>Prints the document.</summary>
+    /// <param name="Copies">How many copies.</param>
+    /// <param name="Background">Has no effect.</param>
     procedure PrintDoc(Copies: SmallInt; Background: WordBool = False);
-    /// <summary>Returns how many documents are being printed or saved in the background, 0 when
-    /// none.</summary>
+    /// <summary>Counts the documents that are being printed or saved in the background.</summary>
     function IsPrinting: SmallInt;
-    /// <summary>Returns the application's default folder PathId (a wdDefaultFilePath value), "" on
-    /// failure.</summary>
+    /// <summary>Reads one of the default folders.</summary>
+    /// <param name="PathId">Which folder: a WdDefaultFilePath number.</param>
     function GetDefaultPaths(PathId: SmallInt): WideString;
-    /// <summary>Moves the insertion point to line LineNo, counted from 1; returns true, or false on
-    /// failure.</summary>
+    /// <summary>Moves the insertion point to a line.</summary>
+    /// <param name="LineNo">The line, counted from 1.</param>
     function GotoLine(LineNo: SmallInt): Boolean;
-    /// <summary>Returns the number of the last recorded failure: always 0, because no member of these classes
-    /// records.</summary>
+    /// <summary>Reads the number of the last recorded failure: always 0.</summary>
     function GetLastErrorNumber: Integer;
-    /// <summary>Returns the description of the last recorded failure: always "".</summary>
+    /// <summary>Reads the text of the last recorded failure: always empty.</summary>
     function GetLastErrorDescription: WideString;
   end;
 
@@ -978,7 +1149,8 @@ function TZORBWord.Search(SearchString: WideString; WrapAction: Byte; SearchForw
     BeginAtTop: WordBool; MatchCase: WordBool; MatchWholeWord: WordBool; MatchWildcards: WordBool;
     MatchSoundsLike: WordBool; MatchAllWordForms: WordBool): Boolean;
 begin
-  Result := Control.Search(SearchString, WrapAction, SearchForward, BeginAtTop, MatchCase, MatchWholeWord, MatchWildcards, MatchSoundsLike, MatchAllWordForms) <> 0;
+  Result := Control.Search(SearchString, WrapAction, SearchForward, BeginAtTop, MatchCase, MatchWholeWord,
+      MatchWildcards, MatchSoundsLike, MatchAllWordForms) <> 0;
 end;
 
 function TZORBWord.InTable: Boolean;
@@ -996,7 +1168,8 @@ function TZORBWord.Replace(SearchString: WideString; ReplaceString: WideString; 
     MatchWildcards: WordBool; MatchSoundsLike: WordBool; MatchAllWordForms: WordBool;
     ReplaceOption: Byte): Boolean;
 begin
-  Result := Control.Replace(SearchString, ReplaceString, WrapAction, SearchForward, BeginAtTop, MatchCase, MatchWholeWord, MatchWildcards, MatchSoundsLike, MatchAllWordForms, ReplaceOption) <> 0;
+  Result := Control.Replace(SearchString, ReplaceString, WrapAction, SearchForward, BeginAtTop, MatchCase,
+      MatchWholeWord, MatchWildcards, MatchSoundsLike, MatchAllWordForms, ReplaceOption) <> 0;
 end;
 
 function TZORBWord.NumberOfSections: Integer;
@@ -1021,7 +1194,9 @@ function TZORBWord.ReplaceHeaderFooter(Section: Integer; IsHeader: WordBool; Hea
     BeginAtTop: WordBool; MatchCase: WordBool; MatchWholeWord: WordBool; MatchWildcards: WordBool;
     MatchSoundsLike: WordBool; MatchAllWordForms: WordBool; ReplaceOption: Byte): Boolean;
 begin
-  Result := Control.ReplaceHeaderFooter(Section, IsHeader, HeaderFooterType, SearchString, ReplaceString, WrapAction, SearchForward, BeginAtTop, MatchCase, MatchWholeWord, MatchWildcards, MatchSoundsLike, MatchAllWordForms, ReplaceOption) <> 0;
+  Result := Control.ReplaceHeaderFooter(Section, IsHeader, HeaderFooterType, SearchString, ReplaceString,
+      WrapAction, SearchForward, BeginAtTop, MatchCase, MatchWholeWord, MatchWildcards, MatchSoundsLike,
+      MatchAllWordForms, ReplaceOption) <> 0;
 end;
 
 function TZORBWord.CellCount: Integer;
@@ -1176,7 +1351,8 @@ function TZORBOutlook.NewEmail(Template: WideString; ToAddress: WideString; CCAd
     BCCAddress: WideString; Subject: WideString; Content: WideString; UseHTML: WordBool; AutoSend: WordBool;
     Attachment: WideString): Boolean;
 begin
-  Result := Control.NewEmail(Template, ToAddress, CCAddress, BCCAddress, Subject, Content, UseHTML, AutoSend, Attachment);
+  Result := Control.NewEmail(Template, ToAddress, CCAddress, BCCAddress, Subject, Content, UseHTML, AutoSend,
+      Attachment);
 end;
 
 function TZORBOutlook.OpenItem(EntryType: WideString): Boolean;
@@ -1375,7 +1551,8 @@ function TOpenWriter.Search(SearchString: WideString; WrapAction: Byte; SearchFo
     BeginAtTop: WordBool; MatchCase: WordBool; MatchWholeWord: WordBool; MatchWildcards: WordBool;
     MatchSoundsLike: WordBool; MatchAllWordForms: WordBool): Boolean;
 begin
-  Result := Control.Search(SearchString, WrapAction, SearchForward, BeginAtTop, MatchCase, MatchWholeWord, MatchWildcards, MatchSoundsLike, MatchAllWordForms) <> 0;
+  Result := Control.Search(SearchString, WrapAction, SearchForward, BeginAtTop, MatchCase, MatchWholeWord,
+      MatchWildcards, MatchSoundsLike, MatchAllWordForms) <> 0;
 end;
 
 function TOpenWriter.InTable: Boolean;
@@ -1393,7 +1570,8 @@ function TOpenWriter.Replace(SearchString: WideString; ReplaceString: WideString
     MatchWildcards: WordBool; MatchSoundsLike: WordBool; MatchAllWordForms: WordBool;
     ReplaceOption: Byte): Boolean;
 begin
-  Result := Control.Replace(SearchString, ReplaceString, WrapAction, SearchForward, BeginAtTop, MatchCase, MatchWholeWord, MatchWildcards, MatchSoundsLike, MatchAllWordForms, ReplaceOption) <> 0;
+  Result := Control.Replace(SearchString, ReplaceString, WrapAction, SearchForward, BeginAtTop, MatchCase,
+      MatchWholeWord, MatchWildcards, MatchSoundsLike, MatchAllWordForms, ReplaceOption) <> 0;
 end;
 
 function TOpenWriter.NumberOfSections: Integer;
@@ -1418,7 +1596,9 @@ function TOpenWriter.ReplaceHeaderFooter(Section: Integer; IsHeader: WordBool; H
     BeginAtTop: WordBool; MatchCase: WordBool; MatchWholeWord: WordBool; MatchWildcards: WordBool;
     MatchSoundsLike: WordBool; MatchAllWordForms: WordBool; ReplaceOption: Byte): Boolean;
 begin
-  Result := Control.ReplaceHeaderFooter(Section, IsHeader, HeaderFooterType, SearchString, ReplaceString, WrapAction, SearchForward, BeginAtTop, MatchCase, MatchWholeWord, MatchWildcards, MatchSoundsLike, MatchAllWordForms, ReplaceOption) <> 0;
+  Result := Control.ReplaceHeaderFooter(Section, IsHeader, HeaderFooterType, SearchString, ReplaceString,
+      WrapAction, SearchForward, BeginAtTop, MatchCase, MatchWholeWord, MatchWildcards, MatchSoundsLike,
+      MatchAllWordForms, ReplaceOption) <> 0;
 end;
 
 function TOpenWriter.CellCount: Integer;
@@ -1616,7 +1796,9 @@ end;
 
 procedure Register;
 begin
-  RegisterComponents('ActiveX', [TZORBWordControl, TZORBOutlookControl, TOpenWriterControl]);
+  RegisterComponents('ActiveX', [TZORBWordControl]);
+  RegisterComponents('ActiveX', [TZORBOutlookControl]);
+  RegisterComponents('ActiveX', [TOpenWriterControl]);
 end;
 
 {$ENDIF}
