@@ -1,13 +1,13 @@
 // The three jobs of examples/README.md: jobs letter TEMPLATE OUTPUT NAME | table DOCUMENT | appointments [DAY]
-//   cl /EHsc /utf-8 /I..\..\bindings\cpp jobs.cpp
+//   cl /EHsc /I..\..\bindings\cpp jobs.cpp
 //   i686-w64-mingw32-g++ -std=c++11 -municode -static -I../../bindings/cpp jobs.cpp -o jobs.exe -lole32 -loleaut32
 #include "ZORBOffice.h"
 
 #include <fcntl.h>
 #include <io.h>
 
-#include <cstdio>
 #include <ctime>
+#include <iostream>
 #include <set>
 
 using namespace ZORBOffice;
@@ -17,14 +17,12 @@ void require(bool holds, const wstring& reason) {
   if (!holds) throw Error(E_FAIL, reason);
 }
 
-void print(const wstring& line, FILE* where = stdout) { fputws((line + L'\n').c_str(), where); }
-
 bool exists(const wstring& path) { return GetFileAttributesW(path.c_str()) != INVALID_FILE_ATTRIBUTES; }
 
 // Word has a current folder of its own.
 wstring full(const wchar_t* path) {
   wchar_t buffer[MAX_PATH];
-  require(_wfullpath(buffer, path, MAX_PATH) != nullptr, wstring(L"no such path: ") + path);
+  require(_wfullpath(buffer, path, MAX_PATH) != nullptr, path);
   return buffer;
 }
 
@@ -33,23 +31,26 @@ wstring replaced(wstring text, const wstring& part, const wstring& by) {
   return text;
 }
 
-struct Word : ZORBWord {
-  bool is_open = false;
-  // Word stays behind unless it is told to quit, and asks about changes unless the document is closed without them.
-  ~Word() {
+// Word stays behind unless it is told to quit, and asks about changes unless the document is closed without them.
+struct Document : ZORBWord {
+  Document(const wstring& path, bool is_template) {
+    require(Start(), L"Word does not start");
+    if (is_template ? CreateDoc(path) : OpenDoc(path)) return;
+    StopWord(true);
+    throw Error(E_FAIL, L"cannot be opened: " + path);
+  }
+  ~Document() {
     try {
-      if (is_open) CloseDoc(wdDoNotSaveChanges);
+      CloseDoc(wdDoNotSaveChanges);
       StopWord(true);
-    } catch (const Error&) {  // it was not started, or has ended
+    } catch (const Error&) {  // Word has ended
     }
   }
 };
 
 void letter(const wstring& letter_template, const wstring& output, const wstring& name) {
   require(!exists(output), output + L" exists");
-  Word word;
-  require(word.Start(), L"Word does not start");
-  require(word.is_open = word.CreateDoc(letter_template), L"the template cannot be opened");
+  Document word(letter_template, true);
   const auto fill = [&](const wstring& field, const wstring& value) {
     // A "^" begins a code of Word's.
     word.Replace(field, replaced(value, L"^", L"^^"), wdFindContinue, true, true, false, false, false, false, false, wdReplaceAll);
@@ -59,21 +60,18 @@ void letter(const wstring& letter_template, const wstring& output, const wstring
   const wstring text = word.ReadText(0, 0);
   require(!text.empty() && text.find(L"<<") == wstring::npos, L"a field is left in the letter");
   word.SaveDoc(output);
-  require(exists(output), L"the letter cannot be saved");
-  print(L"saved " + output.substr(output.rfind(L'\\') + 1));
+  require(exists(output), L"the letter cannot be saved");  // saving has no result
+  std::wcout << L"saved " << output.substr(output.rfind(L'\\') + 1) << L'\n';
 }
 
 void table(const wstring& document) {
-  Word word;
-  require(word.Start(), L"Word does not start");
-  require(word.is_open = word.OpenDoc(document), L"the document cannot be opened");
+  Document word(document, false);
   require(word.Search(L"Article") && word.InTable(), L"the document has no price table");
   while (word.InTable()) {
-    wstring row;
     // A cell's text ends in its end mark, and holds paragraph marks in between.
     for (long cell = 1, count = word.CellCount(); cell <= count; ++cell)
-      row += (cell > 1 ? L" | " : L"") + replaced(replaced(word.CellText(cell), L"\r\a", L""), L"\r", L" ");
-    print(row);
+      std::wcout << (cell > 1 ? L" | " : L"") << replaced(replaced(word.CellText(cell), L"\r\a", L""), L"\r", L" ");
+    std::wcout << L'\n';
     // Behind a row that is selected as a whole lies the next one, or the text after the table.
     word.SelectRow();
     word.CursorRight(1);
@@ -84,18 +82,20 @@ void appointments(const wstring& day) {
   ZORBOutlook outlook;
   const auto get = [&](const wchar_t* key) { return outlook.GetAppointmentProperty(key); };
   // Dates and times read with the separators of the user's settings: only the digits are sure.
-  const auto start_day = [&](wstring d) { return d.substr(6, 4) + L"-" + d.substr(3, 2) + L"-" + d.substr(0, 2); };
-  const auto start_time = [&] { return replaced(get(AppointmentKey::StartTime), L".", L":").substr(0, 5); };
+  const auto day_of = [](const wstring& d) { return d.substr(6, 4) + L"-" + d.substr(3, 2) + L"-" + d.substr(0, 2); };
+  const auto time_of = [](const wstring& t) { return t.substr(0, 2) + L":" + t.substr(3, 2); };
   // A series is one item, which begins when the series does.
   const wstring condition = L"[Start] <= '" + day + L" 23:59' AND ([Start] >= '" + day + L" 00:00' OR [IsRecurring] = True)";
   require(outlook.StartOutlook() && outlook.InitItems(EntryType::Appointment, condition), outlook.GetLastErrorDescription());
   std::multiset<wstring> lines;
   for (bool found = outlook.GetFirstItem(EntryType::Appointment); found; found = outlook.GetNextItem(EntryType::Appointment)) {
-    if (get(AppointmentKey::IsRecurring) == L"True" && !outlook.GetAppointmentInstance(day + L" " + start_time())) continue;
+    const wstring time = time_of(get(AppointmentKey::StartTime));
+    if (get(AppointmentKey::IsRecurring) == L"True" && !outlook.GetAppointmentInstance(day + L" " + time)) continue;
     // An occurrence that was moved may answer to the day that it had.
-    if (start_day(get(AppointmentKey::StartDate)) == day) lines.insert(start_time() + L" " + get(AppointmentKey::Subject));
+    if (day_of(get(AppointmentKey::StartDate)) == day)
+      lines.insert(time_of(get(AppointmentKey::StartTime)) + L" " + get(AppointmentKey::Subject));
   }
-  for (const wstring& line : lines) print(line);
+  for (const wstring& line : lines) std::wcout << line << L'\n';
 }
 
 wstring tomorrow() {
@@ -109,7 +109,6 @@ wstring tomorrow() {
 
 int wmain(int count, wchar_t** arguments) try {
   _setmode(_fileno(stdout), _O_U8TEXT);
-  _setmode(_fileno(stderr), _O_U8TEXT);
   const Apartment apartment;
   const wstring job = count > 1 ? arguments[1] : L"";
   if (job == L"letter" && count == 5)
@@ -119,9 +118,9 @@ int wmain(int count, wchar_t** arguments) try {
   else if (job == L"appointments" && count <= 3)
     appointments(count == 3 ? arguments[2] : tomorrow());
   else
-    require(false, L"usage: jobs letter TEMPLATE OUTPUT NAME | table DOCUMENT | appointments [DAY]");
+    throw Error(E_INVALIDARG, L"usage: jobs letter TEMPLATE OUTPUT NAME | table DOCUMENT | appointments [DAY]");
   return 0;
 } catch (const Error& failure) {
-  print(failure.text(), stderr);
+  std::cerr << failure.what() << '\n';
   return 1;
 }

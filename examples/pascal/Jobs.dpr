@@ -13,40 +13,45 @@ begin
 end;
 
 { Word stays behind unless it is told to quit, and asks about changes unless the document is closed without them. }
-procedure Leave(var Word: TZORBWord; IsOpen: Boolean);
+procedure Leave(var Word: TZORBWord);
 begin
-  if IsOpen then Word.CloseDoc(wdDoNotSaveChanges);
+  Word.CloseDoc(wdDoNotSaveChanges);
   Word.StopWord(True);
 end;
 
-procedure Fill(var Word: TZORBWord; const Field, Value: string);
+function Opened(const Path: string; IsTemplate: Boolean): TZORBWord;
 begin
-  { A "^" begins a code of Word's. }
-  Word.Replace(Field, StringReplace(Value, '^', '^^', [rfReplaceAll]), wdFindContinue, True, True, False, False, False, False,
-    False, wdReplaceAll);
+  Result := TZORBWord.Create;
+  Require(Result.Start, 'Word does not start');
+  if IsTemplate and Result.CreateDoc(Path) or not IsTemplate and Result.OpenDoc(Path) then Exit;
+  Result.StopWord(True);
+  raise Exception.Create('cannot be opened: ' + Path);
 end;
 
 procedure Letter(const Template, Output, Name: string);
 var
   Word: TZORBWord;
-  IsOpen: Boolean;
   Text: string;
+
+  procedure Fill(const Field, Value: string);
+  begin
+    { A "^" begins a code of Word's. }
+    Word.Replace(Field, StringReplace(Value, '^', '^^', [rfReplaceAll]), wdFindContinue, True, True, False, False, False, False,
+      False, wdReplaceAll);
+  end;
+
 begin
   Require(not FileExists(Output), Output + ' exists');
-  Word := TZORBWord.Create;
-  Require(Word.Start, 'Word does not start');
-  IsOpen := Word.CreateDoc(Template);
+  Word := Opened(Template, True);
   try
-    Require(IsOpen, 'the template cannot be opened');
-    Fill(Word, '<<Name>>', Name);
-    Fill(Word, '<<Order>>', '12 boxes of paper, EUR 49.90 each');
+    Fill('<<Name>>', Name);
+    Fill('<<Order>>', '12 boxes of paper, EUR 49.90 each');
     Text := Word.ReadText(0, 0);
     Require((Text <> '') and (Pos('<<', Text) = 0), 'a field is left in the letter');
     Word.SaveDoc(Output);
-    { Saving has no result. }
-    Require(FileExists(Output), 'the letter cannot be saved');
+    Require(FileExists(Output), 'the letter cannot be saved');  { saving has no result }
   finally
-    Leave(Word, IsOpen);
+    Leave(Word);
   end;
   WriteLn('saved ', ExtractFileName(Output));
 end;
@@ -54,15 +59,11 @@ end;
 procedure Table(const Document: string);
 var
   Word: TZORBWord;
-  IsOpen: Boolean;
   Row, Text: string;
   Cell: Integer;
 begin
-  Word := TZORBWord.Create;
-  Require(Word.Start, 'Word does not start');
-  IsOpen := Word.OpenDoc(Document);
+  Word := Opened(Document, False);
   try
-    Require(IsOpen, 'the document cannot be opened');
     Require(Word.Search('Article') and Word.InTable, 'the document has no price table');
     while Word.InTable do
     begin
@@ -80,7 +81,7 @@ begin
       Word.CursorRight(1);
     end;
   finally
-    Leave(Word, IsOpen);
+    Leave(Word);
   end;
 end;
 

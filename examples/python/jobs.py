@@ -84,10 +84,11 @@ def appointments(day=str(datetime.date.today() + datetime.timedelta(1))):
         print(line)
 
 
+JOBS = {("letter", 5): letter, ("table", 3): table, ("appointments", 2): appointments, ("appointments", 3): appointments}
+
 if __name__ == "__main__":
+    job = JOBS.get((*sys.argv[1:2], len(sys.argv))) or sys.exit(__doc__)
     try:
-        {"letter": letter, "table": table, "appointments": appointments}[sys.argv[1]](*sys.argv[2:])
-    except (IndexError, KeyError, TypeError):
-        sys.exit(__doc__)
+        job(*sys.argv[2:])
     except pywintypes.com_error as failure:
-        sys.exit(str(failure))
+        sys.exit((failure.excepinfo and failure.excepinfo[2]) or failure.strerror)
