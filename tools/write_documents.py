@@ -20,6 +20,7 @@ BINDINGS = {
     "bindings/csharp/ZORBOffice.cs": "ZORBOffice.cs.j2",
     "bindings/pascal/ZORBOffice.pas": "ZORBOffice.pas.j2",
     "bindings/python/zorboffice.py": "zorboffice.py.j2",
+    "bindings/python/zorboffice.pyi": "zorboffice.pyi.j2",
 }
 
 
