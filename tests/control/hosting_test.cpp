@@ -5,30 +5,16 @@
 
 namespace {
 
+template <class... Interfaces>
+const std::vector<IID> ids_of = {__uuidof(Interfaces)...};
+
 // Also where the control is a part of another object.
 TEST(Interfaces, are_those_that_containers_ask_for_and_no_promise_of_safety) {
-  const IID known[] = {IID_IUnknown,
-                       IID_IDispatch,
-                       IID_IOleObject,
-                       IID_IOleControl,
-                       IID_IOleWindow,
-                       IID_IOleInPlaceObject,
-                       IID_IOleInPlaceActiveObject,
-                       IID_IViewObject,
-                       IID_IViewObject2,
-                       IID_IViewObjectEx,
-                       IID_IPersist,
-                       IID_IPersistStream,
-                       IID_IPersistStreamInit,
-                       IID_IPersistStorage,
-                       IID_IPersistPropertyBag,
-                       IID_IDataObject,
-                       IID_IProvideClassInfo,
-                       IID_IProvideClassInfo2,
-                       IID_IConnectionPointContainer,
-                       IID_ISpecifyPropertyPages,
-                       IID_IQuickActivate,
-                       IID_ISupportErrorInfo};
+  const auto known = ids_of<IUnknown, IDispatch, IOleObject, IOleControl, IOleWindow, IOleInPlaceObject,
+                            IOleInPlaceActiveObject, IViewObject, IViewObject2, IViewObjectEx, IPersist,
+                            IPersistStream, IPersistStreamInit, IPersistStorage, IPersistPropertyBag,
+                            IDataObject, IProvideClassInfo, IProvideClassInfo2, IConnectionPointContainer,
+                            ISpecifyPropertyPages, IQuickActivate, ISupportErrorInfo>;
   for (const auto& ids : classes) {
     const GUID own = guid(ids.interface_id);
     Outer outer;
@@ -37,10 +23,10 @@ TEST(Interfaces, are_those_that_containers_ask_for_and_no_promise_of_safety) {
     for (const auto& identity : {as<IUnknown>(create(ids).Get()), as<IUnknown>(&outer)}) {
       ComPtr<IUnknown> face, back;
       for (const IID& id : known) {
-        ASSERT_EQ(identity->QueryInterface(id, &face), S_OK) << &id - known;
-        EXPECT_EQ(as<IUnknown>(face), identity) << &id - known;
-        ASSERT_EQ(face->QueryInterface(own, &back), S_OK) << &id - known;
-        EXPECT_EQ(as<IUnknown>(back), identity) << &id - known;
+        ASSERT_EQ(identity->QueryInterface(id, &face), S_OK) << &id - known.data();
+        EXPECT_EQ(as<IUnknown>(face), identity) << &id - known.data();
+        ASSERT_EQ(face->QueryInterface(own, &back), S_OK) << &id - known.data();
+        EXPECT_EQ(as<IUnknown>(back), identity) << &id - known.data();
       }
       EXPECT_EQ(as<ISupportErrorInfo>(identity)->InterfaceSupportsErrorInfo(own), S_OK);
       for (const IID& id :

@@ -26,6 +26,27 @@ class Office : public HostTest<0> {
   const std::wstring longest = std::wstring(255, L'x'), too_long = longest + L'x';
 };
 
+TEST_F(Office, WritesMovesCutsAndPastes) {
+  const std::wstring special = L"\xe9\x20ac\xd83d\xde00 ";
+  const auto text = [&](const wchar_t* rest) { return _variant_t((special + rest).c_str()); };
+  const std::tuple<const wchar_t*, Arguments, std::string> rows[] = {
+      {L"SendText", {text(L"three")}, "ui1 1"},
+      {L"CursorLeft", {L"5", 1, 1}, "empty"},
+      {L"SelectionText", {}, "bstr \"three\""},
+      {L"Cut", {}, "empty"},
+      {L"ReadText", {0, 0}, describe(text(L"\r"))},
+      {L"Paste", {}, "empty"},
+      {L"CursorLeft", {3}, "empty"},
+      {L"SendText", {L"-"}, "ui1 1"},
+      {L"GotoLine", {1}, "bool -1"},
+      {L"SelectParagraph", {}, "empty"},
+      {L"SelectionText", {}, describe(text(L"th-ree\r"))},
+      {L"IsPrinting", {}, "i2 0"},
+      {L"CloseDoc", {0}, "empty"},
+      {L"GotoLine", {1}, "bool 0"}};
+  for (const auto& [member, arguments, result] : rows) expect(member, arguments, result);
+}
+
 TEST_F(Office, FindsAndSelects) {
   // Nothing is selected where nothing is found.
   const struct {

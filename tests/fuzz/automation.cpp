@@ -1,4 +1,4 @@
-// GetIDsOfNames, Invoke and the members' slots, with arguments in every form.
+// Invoke and the members' slots, with arguments in every form.
 #include <algorithm>
 #include <cstring>
 #include <map>
@@ -108,67 +108,20 @@ void invoke(Life& life, const Callable& called) {
 
 // With null references, too.
 void call_member(Life& life, const Callable& called, size_t slot) {
-  const size_t count = called.types.size() - 1;
+  const size_t count = called.types.size();
   std::vector<Variable> variables(count);
-  std::vector<VARIANT> arguments(count + 1);
+  std::vector<VARIANT> arguments(count);
   for (size_t i = 0; i < count; ++i) {
+    const bool is_result = i == count - 1;
     const VARTYPE type = called.types[i] & ~VT_BYREF;
-    arguments[i] = variables[i].value = life.value_of(type);
-    if (called.types[i] & VT_BYREF) arguments[i] = variables[i].refer(type);
-    if (called.types[i] & VT_BYREF && life.chance.one_in(25)) V_BYREF(&arguments[i]) = nullptr;
+    if (!is_result) variables[i].value = life.value_of(type);
+    if (is_result && type != VT_VARIANT) V_VT(&variables[i].value) = type;
+    arguments[i] = variables[i].value;
+    if (is_result || called.types[i] & VT_BYREF) arguments[i] = variables[i].refer(type);
+    if (V_ISBYREF(&arguments[i]) && life.chance.one_in(25)) V_BYREF(&arguments[i]) = nullptr;
   }
-  const VARTYPE type = called.types[count];
-  constexpr unsigned char zero[sizeof(VARIANT)] = {};
-  alignas(VARIANT) unsigned char result[sizeof(VARIANT) + 1];
-  std::memset(result, 0xCD, sizeof result);
-  const bool wants_result = !life.chance.one_in(25);
-  V_VT(&arguments[count]) = VT_BYREF | type;
-  V_BYREF(&arguments[count]) = wants_result ? result : nullptr;
-  life.set_error_info();
   report.begin("slot " + utf8(called.member.signature));
-  const HRESULT status =
-      call_slot(life.raw<IDispatch>(outside::guid(life.ids->interface_id)), 7 + slot, arguments);
-  ComPtr<IErrorInfo> information;
-  BSTR source = nullptr, text = nullptr;
-  if (FAILED(status) && GetErrorInfo(0, &information) == S_OK)
-    information->GetSource(&source), information->GetDescription(&text);
-  if (FAILED(status)) check_text("a failure without a text", text);
-  if (outside::take(source) != (FAILED(status) ? L"ZORBOffice" : L""))
-    report.wrong("another failure's information", status);
-  if (!wants_result) return;
-  std::map<VARTYPE, size_t> sizes = {{VT_UI1, 1},
-                                     {VT_I2, 2},
-                                     {VT_BOOL, 2},
-                                     {VT_I4, 4},
-                                     {VT_BSTR, sizeof(BSTR)},
-                                     {VT_VARIANT, sizeof(VARIANT)}};
-  const size_t size = sizes[type];
-  if (FAILED(status) && std::memcmp(result, zero, type == VT_VARIANT ? 2 : size) != 0)
-    report.wrong("a failed call's result");
-  if (result[size] != 0xCD) report.wrong("memory behind the result was written");
-  if (type == VT_BSTR && SUCCEEDED(status)) {
-    if (!*reinterpret_cast<BSTR*>(result)) report.wrong("a slot's result without its text");
-    SysFreeString(*reinterpret_cast<BSTR*>(result));
-  }
-}
-
-// Names of members, of nothing, and no name at all.
-void find_names(Life& life, const Callable& called) {
-  constexpr DISPID unset = 0x7EADBEEF;
-  const std::wstring signature = called.member.signature;
-  const size_t name = signature.find(L' ') + 1;
-  std::vector<std::wstring> texts(1 + life.chance.below(5));
-  for (auto& text : texts) text = life.chance.text();
-  if (!life.chance.one_in(3)) texts[0] = signature.substr(name, signature.find(L'(') - name);
-  std::vector<LPOLESTR> names;
-  for (auto& text : texts) names.push_back(life.chance.one_in(20) ? nullptr : text.data());
-  std::vector<DISPID> found(names.size() + 1, unset);
-  report.begin("GetIDsOfNames " + utf8(signature));
-  const HRESULT status = life.raw<IDispatch>()->GetIDsOfNames(
-      IID_NULL, names.data(), static_cast<UINT>(names.size()), 0, found.data());
-  const bool known = std::ranges::find(found, DISPID_UNKNOWN) == found.end();
-  if (status != (known ? S_OK : DISP_E_UNKNOWNNAME)) report.wrong("GetIDsOfNames' answer", status);
-  if (std::ranges::find(found, unset) != found.end() - 1) report.wrong("identifiers were left unset");
+  call_slot(life.raw<IDispatch>(outside::guid(life.ids->interface_id)), 7 + slot, arguments);
 }
 
 }  // namespace
@@ -180,6 +133,5 @@ void call_automation(Life& life) {
     for (const auto& row : outside::members_of(*life.ids))
       members.push_back({row, outside::types_of(row.signature)});
   const size_t slot = life.chance.below(members.size());
-  if (life.chance.one_in(20)) return find_names(life, members[slot]);
   life.chance.one_in(3) ? call_member(life, members[slot], slot) : invoke(life, members[slot]);
 }

@@ -159,13 +159,3 @@ VARIANT Life::value() {
                           VT_I8,      VT_UI4,      VT_I1,       VT_NULL,    VT_EMPTY, VT_ERROR, VT_ERROR,
                           VT_DECIMAL, VT_DISPATCH, VT_DISPATCH, VT_UNKNOWN, VT_ARRAY, 15,       77}));
 }
-
-HRESULT call_slot(IUnknown* target, size_t slot, std::vector<VARIANT>& arguments) {
-  std::vector<VARTYPE> types;
-  std::vector<VARIANT*> places;
-  for (VARIANT& argument : arguments) types.push_back(V_VT(&argument)), places.push_back(&argument);
-  VARIANT answer = {};
-  DispCallFunc(target, slot * sizeof(void*), CC_STDCALL, VT_ERROR, static_cast<UINT>(types.size()),
-               types.data(), places.data(), &answer);
-  return V_ERROR(&answer);
-}

@@ -70,9 +70,6 @@ class Life {
   Outer outer_;
 };
 
-// Calls the method of that slot of a vtable; an argument is the value of its variant's type.
-HRESULT call_slot(IUnknown* target, size_t slot, std::vector<VARIANT>& arguments);
-
 // What is called: a member late or by its slot; any other method.
 void call_automation(Life& life);
 void call_hosting(Life& life);

@@ -186,14 +186,6 @@ TEST_P(Members, TakeTheirStepsAndStopAtTheOneThatFails) {
     const auto last = row_.change.substr(row_.change.find('>') + 1);
     EXPECT_EQ(held(), held_after(!step ? last : restricted ? "Chosen" : fetched ? "Fresh" : ""));
   });
-  expect_empty_answers_to_count(row_.steps, [&](size_t step) {
-    make_row_ready();
-    office_.fail_at = step;
-    std::string outcome = call(row_.member, row_.arguments);
-    office_.fail_at = 0;
-    for (const auto& seen : {log(), taken_boxes(boxes_), last_error(), held()}) outcome += " " + seen;
-    return outcome;
-  });
 }
 
 TEST_P(Members, RunShortOfMemory) {

@@ -9,8 +9,6 @@
 // What a user has set: date and time separator, short date, time, decimal and thousands mark.
 using UserFormats = std::array<const wchar_t*, 6>;
 
-const UserFormats month_first = {L"/", L":", L"M/d/yyyy", L"h:mm:ss tt", L".", L","};
-
 // While one lives, the user's settings have `formats`. The earlier ones are put back at the end.
 class UserLocale {
  public:
@@ -109,7 +107,7 @@ class OutlookTest : public ControlTest<FakeOutlook, 1> {
   std::function<void()> at_box_;
 
  private:
-  const UserLocale locale_{month_first};
+  const UserLocale locale_{{L"/", L":", L"M/d/yyyy", L"h:mm:ss tt", L".", L","}};
 };
 
 // What SetRecurrenceProperty's boxes are titled with, as expect takes it, and the steps to that.

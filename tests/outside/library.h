@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 #include <stdexcept>
 #include <string>
+#include <vector>
 
 namespace outside {
 
@@ -81,6 +82,17 @@ inline ComPtr<IDispatch> create(const ClassIds& ids) {
   ComPtr<IDispatch> made;
   require(factory(ids)->CreateInstance(nullptr, IID_IDispatch, &made) == S_OK, "instance");
   return made;
+}
+
+// Calls the method of that slot of a vtable; an argument is the value of its variant's type.
+inline HRESULT call_slot(IUnknown* target, size_t slot, std::vector<VARIANT>& arguments) {
+  std::vector<VARTYPE> types;
+  std::vector<VARIANT*> places;
+  for (VARIANT& argument : arguments) types.push_back(V_VT(&argument)), places.push_back(&argument);
+  VARIANT answer = {};
+  const HRESULT called = DispCallFunc(target, slot * sizeof(void*), CC_STDCALL, VT_ERROR,
+                                      static_cast<UINT>(types.size()), types.data(), places.data(), &answer);
+  return FAILED(called) ? called : V_ERROR(&answer);
 }
 
 }  // namespace outside

@@ -159,28 +159,6 @@ class ControlTest : public HostTest<class_index> {
     office_.fail_at = 0;
   }
 
-  // An empty answer is an empty text, 0 or false, and null is false: `outcome` tells what comes of either at
-  // a step.
-  template <class Outcome>
-  void expect_empty_answers_to_count(const std::string& steps, const Outcome& outcome) {
-    if (office_kind() != ::Office::plain) return;
-    const auto usual = office_.failure;
-    each_step(steps, [&](size_t step, const std::string& reached, const std::string& line) {
-      const VARTYPE due = due_at(step, line, steps.substr(reached.size()));
-      if (due == VT_EMPTY || due == VT_DISPATCH || due == VT_UNKNOWN) return;
-      office_.failure = {};
-      office_.failure.answer.ChangeType(due);  // which is empty yet
-      const std::string expected = outcome(step);
-      for (const auto& answer : {_variant_t(), null_value()}) {
-        if (answer.vt == VT_NULL && due != VT_BOOL) continue;
-        office_.failure.answer = answer;
-        EXPECT_EQ(outcome(step), expected) << describe(answer);
-      }
-    });
-    office_.failure = usual;
-    office_.fail_at = 0;
-  }
-
   // Calls the member, each time made ready anew, with every demand for memory refused in turn, alone and with
   // all that follow. It does what it usually does, or fails as `failed` says for a fault, or where not even
   // that can be told, with a failure that reaches the host. Then `kept` looks at what it left behind.
