@@ -1,9 +1,10 @@
 // The binder in front of a control of the test's own, with every form of an argument for every type of
-// parameter, and the members' frame.
+// parameter, the members' frame, and how long a step waits for an application that stays busy.
 #include <gtest/gtest.h>
 #include <comutil.h>
 #include <cstring>
 #include <map>
+#include "ZORBOffice/common/automation_object.h"
 #include "ZORBOffice/common/member_frame.h"
 #include "ZORBOffice/control/control.h"
 #include "support/fake_object.h"
@@ -273,6 +274,21 @@ TEST(Frame, AFailedCallLeavesNoStringToFree) {
   EXPECT_EQ(trapped(&result, silent, fails), S_OK);
   EXPECT_NE(result, nullptr);
   SysFreeString(result);
+}
+
+TEST(Waiting, EndsAfterTenSeconds) {
+  FakeOffice office;
+  std::vector<DWORD> attempts;
+  office.gate = [&] {
+    attempts.push_back(GetTickCount());
+    return RPC_E_SERVERCALL_RETRYLATER;
+  };
+  AutomationObject document;
+  *document.variable() = office.make("Document");
+  EXPECT_THROW(document.call(L"Save"), Failure);
+  EXPECT_NEAR(attempts.back() - attempts.front(), 10'900, 1'000);
+  EXPECT_LT(attempts[1] - attempts[0], 300U) << "the first pause is short";
+  EXPECT_LT(attempts.size(), 40U) << "the others grow";
 }
 
 // Last, because the process stays where nobody sees it.

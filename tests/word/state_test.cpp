@@ -116,7 +116,6 @@ const std::pair<Failure, const char*> told[] = {
     {{RPC_E_SERVERCALL_REJECTED}, "-2147417845 :  The message filter rejected the call."},
     {{RPC_E_CALL_CANCELED}, "-2147418110 :  Call was canceled by the message filter."},
     {{RPC_E_SERVERFAULT}, "-2147417851 :  The server threw an exception."},
-    {{RPC_E_DISCONNECTED}, "-2147417848 :  The object invoked has disconnected from its clients."},
     {{static_cast<HRESULT>(0x800706BE)}, "-2147023170 :  RPC call failed."},  // Wine's words
 };
 
@@ -130,13 +129,6 @@ TEST_F(Failures, HaveTheirNumberAndDescription) {
     office_.failure = failure;
     expect(L"PrintDoc", {1}, "empty", std::string("Print Doc ") + message);
   }
-}
-
-TEST_F(Failures, OfTheLookUpComeBeforeTheCall) {
-  make_ready();
-  office_.refused["Document.PrintOut"] = DISP_E_UNKNOWNNAME;
-  expect(L"PrintDoc", {1}, "empty", "Print Doc 438 :  Object doesn't support this property or method");
-  EXPECT_EQ(log(), "");
 }
 
 TEST_F(Failures, DoNotTakeTheTextOfAnEarlierOne) {
