@@ -3,6 +3,7 @@
 #include <functional>
 
 #include "registry.h"
+#include "support/apartments.h"
 
 namespace outside {
 namespace {
@@ -72,9 +73,8 @@ TEST(Manifest, lets_hosts_create_the_controls_unregistered) {
   expect_controls(REGDB_E_CLASSNOTREG);
 }
 
-DWORD WINAPI create_elsewhere(void*) {
-  CoInitializeEx(nullptr, COINIT_MULTITHREADED);
-  in_context(true, [] {
+TEST(Manifest, serves_other_apartments) {
+  const auto create = [] {
     for (const ClassIds& ids : classes) {
       ComPtr<IUnknown> instance;
       EXPECT_EQ(CoCreateInstance(guid(ids.class_id), nullptr, CLSCTX_INPROC_SERVER, guid(ids.interface_id),
@@ -83,16 +83,8 @@ DWORD WINAPI create_elsewhere(void*) {
       ComPtr<IClientSecurity> proxy;
       ASSERT_EQ(instance.As(&proxy), S_OK) << "no proxy";
     }
-  });
-  CoUninitialize();
-  return 0;
-}
-
-TEST(Manifest, serves_other_apartments) {
-  HANDLE caller = CreateThread(nullptr, 0, create_elsewhere, nullptr, 0, nullptr);
-  DWORD index;
-  EXPECT_EQ(CoWaitForMultipleHandles(0, 30'000, 1, &caller, &index), S_OK);
-  CloseHandle(caller);
+  };
+  run_in({{COINIT_MULTITHREADED, [&] { in_context(true, create); }}});
   // Where marshalling takes it from a manifest, Wine registers the type library.
   UnRegisterTypeLib(guid(library_id), 1, 0, 0x409, sizeof(void*) == 8 ? SYS_WIN64 : SYS_WIN32);
 }

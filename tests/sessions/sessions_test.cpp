@@ -4,6 +4,7 @@
 #include <cstdlib>
 
 #include "ZORBOffice/surface/word_processor_interface.h"
+#include "support/apartments.h"
 #include "support/control_test.h"
 #include "support/fake_offices.h"
 #include "support/message_filter.h"
@@ -126,31 +127,6 @@ TEST_F(OutlookSession, BeginsAnewAfterOutlookHasEnded) {
 
 using Microsoft::WRL::ComPtr;
 
-struct Apartment {
-  COINIT kind;
-  std::function<void()> run;
-};
-
-// Runs each in a thread of its own while this apartment answers.
-void run_in(const std::vector<Apartment>& apartments) {
-  const auto start = [](void* context) WINAPI -> DWORD {
-    const auto& [kind, run] = *static_cast<const Apartment*>(context);
-    CoInitializeEx(nullptr, kind);
-    run();
-    CoUninitialize();
-    return 0;
-  };
-  std::vector<HANDLE> threads;
-  for (auto& apartment : apartments)
-    threads.push_back(CreateThread(nullptr, 0, start, const_cast<Apartment*>(&apartment), 0, nullptr));
-  for (HANDLE thread : threads) {
-    DWORD index = 0;
-    EXPECT_EQ(CoWaitForMultipleHandles(0, 30'000, 1, &thread, &index), S_OK);
-    CloseHandle(thread);
-  }
-  EXPECT_EQ(outside::call("DllCanUnloadNow"), S_OK);
-}
-
 using Marshalled = ControlTest<FakeWord, 0>;
 
 // The office's objects tell when they are called from another apartment than the control's, which lets go of
@@ -175,6 +151,7 @@ TEST_F(Marshalled, AnInstanceIsCalledFromAnotherApartmentWhichReleasesItLast) {
                EXPECT_EQ(late_call(word.Get(), L"SelectionText"), "bstr \"chosen\"");
              }}});
     EXPECT_EQ(office_.live, 0);
+    EXPECT_EQ(outside::call("DllCanUnloadNow"), S_OK);
   }
   EXPECT_EQ(outside::call("DllUnregisterServer"), S_OK);
 }
@@ -202,6 +179,7 @@ TEST(Apartments, HaveTheirOwnSessionsAtOnce) {
     CoInitialize(nullptr);
   };
   run_in({{COINIT_MULTITHREADED, [&] { session(L"first"); }}, {COINIT_APARTMENTTHREADED, end_first}});
+  EXPECT_EQ(outside::call("DllCanUnloadNow"), S_OK);
 }
 
 }  // namespace
