@@ -3,7 +3,7 @@
 #include <cstring>
 
 #include "members.h"
-#include "support/shown_boxes.h"
+#include "support/message_boxes.h"
 
 namespace outside {
 namespace {
@@ -67,7 +67,7 @@ std::string raised(HRESULT code) {
 TEST(Slots, answer_a_host_that_started_nothing) {
   CLSID office;
   ASSERT_NE(CLSIDFromProgID(L"Word.Application", &office), S_OK) << "an office program would start";
-  ShownBoxes boxes;
+  MessageBoxes boxes;
   ComPtr<ICreateErrorInfo> earlier;
   ComPtr<IErrorInfo> anothers;
   ASSERT_EQ(CreateErrorInfo(&earlier), S_OK);
@@ -85,8 +85,10 @@ TEST(Slots, answer_a_host_that_started_nothing) {
       std::memset(result, 0xCD, sizeof result);
       SetErrorInfo(0, anothers.Get());
       const HRESULT code = call_member(instance.Get(), slot, types, result);
-      for (const ShownBox& box : boxes.take())
+      for (const SeenBox& box : boxes.take()) {
+        EXPECT_EQ(box.buttons, std::vector<std::string>{"OK"});
         if (box.text != last) shown += last = box.text;
+      }
       EXPECT_TRUE(members[slot].succeeds || is_failure_value(types.back(), result));
       EXPECT_EQ(shown + raised(code), members[slot].fresh);
       EXPECT_EQ(call_member(instance.Get(), slot, types, nullptr), E_POINTER);
