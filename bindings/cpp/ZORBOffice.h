@@ -719,6 +719,7 @@ class Control {
  public:
   Interface* control() const { return control_; }
 
+  Control(Control&& other) noexcept : control_(other.control_) { other.control_ = nullptr; }
   Control(const Control&) = delete;
   Control& operator=(const Control&) = delete;
 
@@ -729,7 +730,9 @@ class Control {
     control_ = static_cast<Interface*>(made);
   }
   explicit Control(Interface* control) : control_(control) { control_->AddRef(); }
-  ~Control() { control_->Release(); }
+  ~Control() {
+    if (control_) control_->Release();
+  }
 
   Interface* control_;
 };

@@ -1,5 +1,5 @@
-{ ZORBOffice for Delphi and Free Pascal: the controls' interfaces, a record a control that is called with plain values, and
-  under Delphi the controls for a form. Written by the build from the tables of the library; not to be edited.
+{ ZORBOffice for Delphi (2009 and later) and Free Pascal: the controls' interfaces, a record a control that is called with
+  plain values, and under Delphi the controls for a form. Written by the build from the tables of the library; not to be edited.
 
     Library_ := TUnregisteredLibrary.Create('C:\Tools\ZORBOffice.manifest');  // not needed where it is registered
     Word := TZORBWord.Create;
@@ -1063,7 +1063,7 @@ type
     Module: HMODULE;
   end;
 
-function CreateActCtxW(const Source: TSource): THandle; stdcall; external 'kernel32.dll';
+function CreateActCtxW(var Source: TSource): THandle; stdcall; external 'kernel32.dll';
 function ActivateActCtx(Context: THandle; out Cookie: ULONG_PTR): BOOL; stdcall; external 'kernel32.dll';
 function DeactivateActCtx(Flags: DWORD; Cookie: ULONG_PTR): BOOL; stdcall; external 'kernel32.dll';
 procedure ReleaseActCtx(Context: THandle); stdcall; external 'kernel32.dll';
