@@ -9,7 +9,8 @@
   be created, is raised as EOleException or EOleSysError. A control belongs to the thread that creates it, where COM has been
   initialised: the unit ComObj does that for the main thread of a program. A record lets go of its control by itself.
 
-  On a form of Lazarus a TActiveXContainer holds the control: Container.ComServer := CoZORBWord.Create. }
+  On a form of Lazarus a TActiveXContainer holds the control:
+    Container.ComServer := Word.Control; Container.Active := True; }
 unit ZORBOffice;
 
 {$IFDEF FPC}{$MODE DELPHI}{$ENDIF}
