@@ -5,9 +5,9 @@
 namespace zorboffice {
 
 #ifdef ZORBOFFICE_SENTENCES
-static consteval const char* says(const char* sentence) { return sentence; }
+static constexpr const char* says(const char* sentence) { return sentence; }
 #else
-static consteval const char* says(const char*) { return nullptr; }
+static constexpr const char* says(const char*) { return nullptr; }
 #endif
 
 }  // namespace zorboffice
