@@ -12,6 +12,7 @@
 #include "ZORBOffice/outlook/property_tables.h"
 #include "ZORBOffice/surface/registration_values.h"
 #include "tools/class_list.h"
+#include "tools/text.h"
 
 namespace zorboffice {
 namespace {
@@ -38,15 +39,6 @@ const Accessors accessors[] = {
     {"Email", "the current mail", L"GetEmailProperty", nullptr, email_properties},
     {"Note", "the current note", L"GetNoteProperty", L"SetNoteProperty", note_properties},
 };
-
-// Everything that is published is ASCII.
-std::string ascii(std::wstring_view text) { return {text.begin(), text.end()}; }
-
-std::string text_of(REFGUID id) {
-  wchar_t buffer[39];
-  StringFromGUID2(id, buffer, ARRAYSIZE(buffer));
-  return ascii(buffer);
-}
 
 std::string sentence_of(const wchar_t* name, const char* sentence) {
   if (!sentence) throw std::runtime_error(ascii(name) + " has no sentence");

@@ -9,6 +9,7 @@
 
 #include "ZORBOffice/surface/registration_values.h"
 #include "tools/class_list.h"
+#include "tools/text.h"
 
 namespace zorboffice {
 namespace {
@@ -29,15 +30,6 @@ constexpr MiscStatusName misc_status_names[] = {
     {OLEMISC_SETCLIENTSITEFIRST, "setclientsitefirst"},
 };
 static_assert(type_library_flags == LIBFLAG_FCONTROL, "the manifest calls it \"CONTROL\"");
-
-// Everything that is published is ASCII.
-std::string ascii(std::wstring_view text) { return {text.begin(), text.end()}; }
-
-std::string text_of(REFGUID id) {
-  wchar_t buffer[39];
-  StringFromGUID2(id, buffer, ARRAYSIZE(buffer));
-  return ascii(buffer);
-}
 
 std::string attribute(const char* name, const std::string& value) {
   return std::string(" ") + name + "=\"" + value + '"';
