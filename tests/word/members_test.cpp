@@ -30,7 +30,6 @@ const std::string activated = " | call Application.Activate", quit = "call Appli
 
 const Row session[] = {
     {L"Start", {}, "ui1 1", unnumbered},
-    {L"Start", {false}, "ui1 1", unnumbered},
     {L"Start", {true}, "ui1 1", resized},
     {L"Start", {true}, "ui1 1", placed, {{"Application.Version", {L"85"}}}},
     {L"Start", {true}, "ui1 1", resized, {{"Application.Version", {L"18.0"}}}},
