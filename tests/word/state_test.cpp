@@ -87,8 +87,27 @@ const std::pair<Failure, const char*> told[] = {
     {{E_FAIL}, "-2147467259 :  Call failed."},  // in the words of the system, which here is Wine
     {{E_INVALIDARG}, "5 :  Invalid procedure call or argument"},
     {{DISP_E_OVERFLOW}, "6 :  Overflow"},
+    {{DISP_E_BADINDEX}, "9 :  Subscript out of range"},
+    {{DISP_E_ARRAYISLOCKED}, "10 :  This array is fixed or temporarily locked"},
+    {{DISP_E_TYPEMISMATCH}, "13 :  Type mismatch"},
+    {{STG_E_PATHNOTFOUND}, "76 :  Path not found"},
     {{REGDB_E_CLASSNOTREG}, "429 :  ActiveX component can't create object"},
+    {{MK_E_UNAVAILABLE}, "429 :  ActiveX component can't create object"},
+    {{CO_E_CLASSSTRING}, "429 :  ActiveX component can't create object"},
+    {{CO_E_APPNOTFOUND}, "429 :  ActiveX component can't create object"},
+    {{CO_E_SERVER_EXEC_FAILURE}, "429 :  ActiveX component can't create object"},
+    {{E_NOINTERFACE}, "430 :  Class doesn't support Automation"},
+    {{STG_E_FILENOTFOUND}, "432 :  File name or class name not found during Automation operation"},
+    {{MK_E_CANTOPENFILE}, "432 :  File name or class name not found during Automation operation"},
+    {{DISP_E_UNKNOWNNAME}, "438 :  Object doesn't support this property or method"},
     {{DISP_E_MEMBERNOTFOUND}, "438 :  Object doesn't support this property or method"},
+    {{E_NOTIMPL}, "445 :  Object doesn't support this action"},
+    {{DISP_E_NONAMEDARGS}, "446 :  Object doesn't support named arguments"},
+    {{DISP_E_UNKNOWNLCID}, "447 :  Object doesn't support current locale setting"},
+    {{DISP_E_PARAMNOTFOUND}, "448 :  Named argument not found"},
+    {{DISP_E_PARAMNOTOPTIONAL}, "449 :  Argument not optional"},
+    {{DISP_E_BADPARAMCOUNT}, "450 :  Wrong number of arguments or invalid property assignment"},
+    {{DISP_E_NOTACOLLECTION}, "451 :  Object not a collection"},
     {{DISP_E_BADVARTYPE}, "458 :  Variable uses an Automation type not supported"},
     // What may have run is not tried again: a second attempt would not fail.
     {{DISP_E_EXCEPTION, 0x80010001}, "-2147418111 :  Call was rejected by callee."},
@@ -97,6 +116,7 @@ const std::pair<Failure, const char*> told[] = {
     {{RPC_E_SERVERCALL_REJECTED}, "-2147417845 :  The message filter rejected the call."},
     {{RPC_E_CALL_CANCELED}, "-2147418110 :  Call was canceled by the message filter."},
     {{RPC_E_SERVERFAULT}, "-2147417851 :  The server threw an exception."},
+    {{RPC_E_DISCONNECTED}, "-2147417848 :  The object invoked has disconnected from its clients."},
     {{static_cast<HRESULT>(0x800706BE)}, "-2147023170 :  RPC call failed."},  // Wine's words
 };
 
