@@ -42,6 +42,6 @@ function twoDigits(number) {
 }
 
 function fail(reason) {
-  WScript.StdErr.WriteLine(reason);
+  WScript.Echo(reason);
   WScript.Quit(1);
 }

@@ -46,6 +46,6 @@ function fill(field, value) {
 }
 
 function fail(reason) {
-  WScript.StdErr.WriteLine(reason);
+  WScript.Echo(reason);
   WScript.Quit(1);
 }

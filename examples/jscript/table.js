@@ -42,6 +42,6 @@ function row() {
 }
 
 function fail(reason) {
-  WScript.StdErr.WriteLine(reason);
+  WScript.Echo(reason);
   WScript.Quit(1);
 }

@@ -6,11 +6,13 @@ Private Const all_of_them = 2   ' ReplaceOption
 
 Public Function Letter(ByVal word As ZORBOffice50.ZORBWord, ByVal template As String, ByVal target As String, _
                        ByVal customer As String) As String
+  Dim text As String
   If Dir(target) <> "" Then Err.Raise vbObjectError + 513, "Letter", target & " exists"
   If word.CreateDoc(template) <> 1 Then Err.Raise vbObjectError + 513, "Letter", "the template cannot be opened"
   Fill word, "<<Name>>", customer
   Fill word, "<<Order>>", "12 boxes of paper, EUR 49.90 each"
-  If InStr(word.ReadText(0, 0), "<<") = 0 Then word.SaveDoc target
+  text = word.ReadText(0, 0)
+  If text <> "" And InStr(text, "<<") = 0 Then word.SaveDoc target
   ' Word asks about changes when it quits, not when a document is closed without them.
   word.CloseDoc 0
   ' Saving has no result.

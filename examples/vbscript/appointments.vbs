@@ -55,6 +55,6 @@ Sub Insert(line)
 End Sub
 
 Sub Fail(reason)
-  WScript.StdErr.WriteLine reason
+  WScript.Echo reason
   WScript.Quit 1
 End Sub

@@ -51,6 +51,6 @@ Sub Fill(field, value)
 End Sub
 
 Sub Fail(reason)
-  WScript.StdErr.WriteLine reason
+  WScript.Echo reason
   WScript.Quit 1
 End Sub

@@ -50,6 +50,6 @@ Function CellText(cell)
 End Function
 
 Sub Fail(reason)
-  WScript.StdErr.WriteLine reason
+  WScript.Echo reason
   WScript.Quit 1
 End Sub
