@@ -2,7 +2,7 @@ Option Strict On
 Imports System
 Imports System.Reflection
 
-''' <summary>A control whose members are called by name: .NET Core's late binding knows no COM, unlike .NET Framework's.</summary>
+''' <summary>A control whose members are called by name, because late binding in .NET Core 3.1 knows no COM.</summary>
 Class Control
   Private Const as_hosts_do As BindingFlags = BindingFlags.InvokeMethod Or BindingFlags.GetProperty
   Private ReadOnly held As Object

@@ -10,7 +10,8 @@ Module Jobs
   <STAThread> Function Main(arguments As String()) As Integer
     Try
       Select Case If(arguments.Length = 0, "", arguments(0)) & arguments.Length
-        Case "letter4" : WithWord(Sub(word) Letter(word, Path.GetFullPath(arguments(1)), Path.GetFullPath(arguments(2)), arguments(3)))
+        Case "letter4"
+          WithWord(Sub(word) Letter(word, Path.GetFullPath(arguments(1)), Path.GetFullPath(arguments(2)), arguments(3)))
         Case "table2" : WithWord(Sub(word) Table(word, Path.GetFullPath(arguments(1))))
         Case "appointments1" : Appointments(Date.Today.AddDays(1).ToString("yyyy'-'MM'-'dd"))
         Case "appointments2" : Appointments(arguments(1))

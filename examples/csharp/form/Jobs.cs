@@ -8,8 +8,10 @@ static class Jobs
 {
     public static string[] Do(string job, string[] arguments, HeldControl word, HeldControl outlook)
     {
-        if (job == "appointments") return Appointments(outlook, arguments.Length > 0 ? arguments[0] : DateTime.Today.AddDays(1).ToString("yyyy'-'MM'-'dd"));
-        if (arguments.Length < (job == "letter" ? 3 : 1)) throw new ArgumentException("letter TEMPLATE OUTPUT NAME, or table DOCUMENT, is needed");
+        if (job == "appointments")
+            return Calendar.Appointments(outlook, arguments.FirstOrDefault() ?? Calendar.Tomorrow);
+        if (arguments.Length < (job == "letter" ? 3 : 1))
+            throw new ArgumentException("letter TEMPLATE OUTPUT NAME, or table DOCUMENT, is needed");
         try
         {
             if (!word.Does("Start")) throw new InvalidOperationException("Word does not start");
@@ -63,27 +65,5 @@ static class Jobs
         word.Ask("CloseDoc", 0);
         if (rows.Count == 0) throw new IOException("the document has no price table");
         return rows.ToArray();
-    }
-
-    static string[] Appointments(HeldControl outlook, string day)
-    {
-        Func<string, string> read = key => (string)outlook.Ask("GetAppointmentProperty", key);
-        // Dates and times read with the separators of the user's settings: only the digits are sure.
-        Func<string> startDay = () => { var d = read("StartDate"); return d.Substring(6, 4) + "-" + d.Substring(3, 2) + "-" + d.Substring(0, 2); };
-        Func<string> startTime = () => { var t = read("StartTime"); return t.Substring(0, 2) + ":" + t.Substring(3, 2); };
-        // A series is one item, which begins when the series does.
-        var condition = "[Start] <= '" + day + " 23:59' AND ([Start] >= '" + day + " 00:00' OR [IsRecurring] = True)";
-        if (!outlook.Does("StartOutlook") || !outlook.Does("InitItems", "Appointment", condition))
-            throw new InvalidOperationException((string)outlook.Ask("GetLastErrorDescription"));
-        var lines = new List<string>();
-        for (var found = outlook.Does("GetFirstItem", "Appointment"); found; found = outlook.Does("GetNextItem", "Appointment"))
-        {
-            var begins = read("IsRecurring") != "True" || outlook.Does("GetAppointmentInstance", day + " " + startTime());
-            // An occurrence that was moved may answer to the day that it had.
-            if (begins && startDay() == day) lines.Add(startTime() + " " + read("Subject"));
-        }
-        // The control gives series by the day of their first occurrence.
-        lines.Sort(StringComparer.Ordinal);
-        return lines.ToArray();
     }
 }

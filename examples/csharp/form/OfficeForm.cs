@@ -1,6 +1,7 @@
 // A form that holds ZORBWord and ZORBOutlook, late bound. Without arguments it waits for its buttons; with a job and its
 // arguments, as letter TEMPLATE OUTPUT NAME, it does that job, writes the lines to the console too, and closes.
 using System;
+using System.Drawing;
 using System.Linq;
 using System.Reflection;
 using System.Windows.Forms;
@@ -14,7 +15,8 @@ sealed class HeldControl : AxHost
     public object Ask(string member, params object[] arguments)
     {
         object control = GetOcx();
-        return control.GetType().InvokeMember(member, BindingFlags.InvokeMethod | BindingFlags.GetProperty, null, control, arguments);
+        const BindingFlags asScriptsDo = BindingFlags.InvokeMethod | BindingFlags.GetProperty;
+        return control.GetType().InvokeMember(member, asScriptsDo, null, control, arguments);
     }
 
     // The members answer with 1 or true.
@@ -26,21 +28,23 @@ sealed class HeldControl : AxHost
 
 sealed class OfficeForm : Form
 {
-    readonly HeldControl word = new HeldControl("495CDEB3-7F1E-4663-9DB2-E33437412CE0") { Bounds = new System.Drawing.Rectangle(360, 100, 32, 32) };
-    readonly HeldControl outlook = new HeldControl("A04BAF5A-D329-4C3A-A012-CFFA919D559F") { Bounds = new System.Drawing.Rectangle(400, 100, 32, 32) };
-    readonly TextBox given = new TextBox { Multiline = true, Bounds = new System.Drawing.Rectangle(8, 8, 440, 80) };
-    readonly TextBox results = new TextBox { Multiline = true, ReadOnly = true, Bounds = new System.Drawing.Rectangle(8, 140, 440, 180) };
+    readonly HeldControl word = new HeldControl("495CDEB3-7F1E-4663-9DB2-E33437412CE0");
+    readonly HeldControl outlook = new HeldControl("A04BAF5A-D329-4C3A-A012-CFFA919D559F");
+    readonly TextBox given = new TextBox { Multiline = true, Bounds = new Rectangle(8, 8, 440, 80) };
+    readonly TextBox results = new TextBox { Multiline = true, ReadOnly = true, Bounds = new Rectangle(8, 140, 440, 180) };
     int exitCode;
 
     OfficeForm(string[] arguments)
     {
         Text = "ZORBOffice";
-        ClientSize = new System.Drawing.Size(456, 328);
+        ClientSize = new Size(456, 328);
+        word.Bounds = new Rectangle(360, 98, 32, 32);
+        outlook.Bounds = new Rectangle(400, 98, 32, 32);
         Controls.AddRange(new Control[] { given, results, word, outlook });
         var left = 8;
         foreach (var job in new[] { "letter", "table", "appointments" })
         {
-            var button = new Button { Text = job, Bounds = new System.Drawing.Rectangle(left, 100, 104, 28) };
+            var button = new Button { Text = job, Bounds = new Rectangle(left, 100, 104, 28) };
             // The box takes one argument a line.
             button.Click += (sender, what) => Do(job, given.Lines);
             Controls.Add(button);
