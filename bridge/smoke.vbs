@@ -110,6 +110,14 @@ Loop
 Check "hits", texts, "5NAME 11name 20Name 26NAME 34NAME 43NAME 51NAME "
 Check "no hit", selection.Find.Execute("A1*B1", False, False, True), False
 
+document.Tables(1).Cell(1, 2).Range.Select
+texts = ""
+Do While selection.Information(12) And Len(texts) < 40
+  texts = texts & Left(selection.Rows(1).Cells(1).Range.Text, 7) & " "
+  selection.SelectRow
+  selection.MoveRight 1, 1
+Loop
+Check "row by row", texts, "NAME A1 NAME A2 "
 selection.HomeKey 6
 Check "tables", document.Tables.Count & document.Tables(1).Cell(2, 1).Range.Text, "1NAME A2" & vbCr & Chr(7)
 document.Tables(1).Cell(1, 1).Range.Select
