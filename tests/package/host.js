@@ -1,0 +1,14 @@
+// Creates the three controls and asks each for its last error; then, given the name of a file, goes on until that is gone.
+var said = [], names = ["ZORBWord", "ZORBOutlook", "OpenWriter"], controls = [];
+for (var i = 0; i < names.length; ++i) {
+  try {
+    controls[i] = new ActiveXObject("ZORBOffice." + names[i]);
+    said.push(names[i] + " " + controls[i].GetLastErrorNumber());
+  } catch (failure) {
+    said.push("no " + names[i]);
+  }
+}
+WScript.Echo(said.join(", "));
+// Wine's script host cannot sleep.
+var files = new ActiveXObject("Scripting.FileSystemObject");
+while (WScript.Arguments.length && files.FileExists(WScript.Arguments(0)));
