@@ -1,5 +1,5 @@
-; The files come all or not at all. They are unpacked into a folder beside the old ones, the old ones are put aside there and the
-; new ones moved in; what fails, or was cut off, goes back from what stands where. files.txt lists a release's files.
+; The files come all or not at all. They are unpacked into a folder beside the old ones, the old ones are put aside there and
+; the new ones moved in; what fails, or was cut off, goes back from what stands where. files.txt lists a release's files.
 ;   ~setup\new\   ~setup\old\
 ;   ~setup\new.txt, all.txt   the files of the new release, and of both; all.txt is there once everything is unpacked
 

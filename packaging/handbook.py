@@ -9,8 +9,11 @@ import subprocess
 import sys
 
 STYLE = """body { font: 16px/1.5 sans-serif; max-width: 60em; margin: 2em auto; padding: 0 1em }
-table { border-collapse: collapse; margin: 1em 0 } td, th { border: 1px solid #bbb; padding: .2em .5em; vertical-align: top; text-align: left }
-pre { background: #f3f3f3; padding: .7em; overflow-x: auto } code { background: #f3f3f3 } section { border-top: 2px solid #888; margin-top: 3em }"""
+table { border-collapse: collapse; margin: 1em 0 }
+td, th { border: 1px solid #bbb; padding: .2em .5em; vertical-align: top; text-align: left }
+pre, code { background: #f3f3f3 }
+pre { padding: .7em; overflow-x: auto }
+section { border-top: 2px solid #888; margin-top: 3em }"""
 
 
 def prefix(page):
@@ -18,8 +21,8 @@ def prefix(page):
 
 
 def converted(page, pages):
-    body = subprocess.run(["pandoc", "-f", "gfm", "-t", "html5", "--wrap=none", "--no-highlight", "--id-prefix", prefix(page), page],
-                          check=True, capture_output=True, text=True).stdout
+    command = ["pandoc", "-f", "gfm", "-t", "html5", "--wrap=none", "--no-highlight", "--id-prefix", prefix(page), page]
+    body = subprocess.run(command, check=True, capture_output=True, text=True).stdout
 
     def link(match):
         target, text = html.unescape(match[1]), match[2]

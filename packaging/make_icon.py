@@ -1,4 +1,4 @@
-"""Writes the icon of the packages from the library's own picture of a control, in three sizes: make_icon.py PICTURE.bmp ICON.ico"""
+"""Writes the icon of the packages in three sizes from the picture of a control: make_icon.py PICTURE.bmp ICON.ico"""
 import struct
 import sys
 

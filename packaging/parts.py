@@ -18,7 +18,7 @@ LINKED = [
 # In the installer's own program, and in the test programs of the check.
 OTHERS = [("NSIS", "nsis", "Zlib AND CPL-1.0", "setup.exe"), ("GoogleTest", "googletest", "BSD-3-Clause", "check.zip")]
 WHY = {
-    "libstdc++": "Parts of it are linked into ZORBOffice.ocx. The GCC Runtime Library Exception, below, permits that on terms of one's own.",
+    "libstdc++": "Parts of it are linked into ZORBOffice.ocx, as the GCC Runtime Library Exception, below, permits.",
     "mingw-w64 runtime": "Parts of it are linked into ZORBOffice.ocx.",
     "NSIS": "The installer's own program and the uninstaller are made of it.",
     "GoogleTest": "It is linked into the test programs of the check for Windows.",
@@ -51,7 +51,8 @@ def notices(out):
         file.write("Parts of these files were written by others. Their notices and licences follow, as Debian hands them on.\n")
         for name, package in packages.items():
             with open(f"/usr/share/doc/{package}/copyright", encoding="utf-8", errors="replace") as text:
-                file.write(f"\n{'=' * 100}\n{name} (package {package} {version_of(package)})\n{WHY[name]}\n{'=' * 100}\n\n{text.read()}")
+                rule = "=" * 100
+                file.write(f"\n{rule}\n{name} (package {package} {version_of(package)})\n{WHY[name]}\n{rule}\n\n{text.read()}")
 
 
 def identifier(*words):
@@ -81,18 +82,19 @@ def bill(version, epoch, out, *files):
     rows = []
     for path in files:
         content = open(path, "rb").read()
-        rows.append({"SPDXID": identifier(os.path.basename(path)), "fileName": "./" + os.path.basename(path), "copyrightText": "NOASSERTION",
-                     "licenseConcluded": "NOASSERTION",
-                     "checksums": [{"algorithm": kind, "checksumValue": hashlib.new(kind, content).hexdigest()} for kind in ("SHA1", "SHA256")]})
+        sums = [{"algorithm": kind, "checksumValue": hashlib.new(kind, content).hexdigest()} for kind in ("SHA1", "SHA256")]
+        rows.append({"SPDXID": identifier(os.path.basename(path)), "fileName": "./" + os.path.basename(path),
+                     "copyrightText": "NOASSERTION", "licenseConcluded": "NOASSERTION", "checksums": sums})
         relations.append(relation(product, "CONTAINS", rows[-1]["SPDXID"]))
     digest = hashlib.sha256(json.dumps(rows).encode()).hexdigest()
+    created = datetime.datetime.fromtimestamp(int(epoch), datetime.timezone.utc).strftime("%Y-%m-%dT%H:%M:%SZ")
+    notices_of_mingw = open("/usr/share/doc/mingw-w64-common/copyright", encoding="utf-8").read()
     document = {
         "spdxVersion": "SPDX-2.3", "dataLicense": "CC0-1.0", "SPDXID": "SPDXRef-DOCUMENT", "name": f"ZORBOffice-{version}",
         "documentNamespace": f"urn:zorboffice:spdx:{version}:{digest[:32]}",
-        "creationInfo": {"created": datetime.datetime.fromtimestamp(int(epoch), datetime.timezone.utc).strftime("%Y-%m-%dT%H:%M:%SZ"),
-                         "creators": ["Tool: script/package"]},
+        "creationInfo": {"created": created, "creators": ["Tool: script/package"]},
         "hasExtractedLicensingInfos": [{"licenseId": "LicenseRef-mingw-w64", "name": "mingw-w64's further notices",
-                                        "extractedText": open("/usr/share/doc/mingw-w64-common/copyright", encoding="utf-8").read()}],
+                                        "extractedText": notices_of_mingw}],
         "packages": packages, "files": rows, "relationships": relations}
     with open(out, "w", encoding="utf-8") as file:
         json.dump(document, file, indent=1, sort_keys=True)

@@ -1,6 +1,6 @@
 ; The installer, for the machine or for one user; docs/setup.md tells what it does and what it returns. script/package makes it:
 ;   makensis -DVERSION=5.0.0.42 -DRELEASE=1 -DPAYLOAD=payload.nsh -DICON=setup.ico -DOUT=setup.exe packaging/setup.nsi
-; The payload defines the macros that unpack the files, UNPACK32 and UNPACK64, and what they take on the disk, SIZE32 and SIZE64 KB.
+; The payload defines the macros that unpack the files, UNPACK32 and UNPACK64, and the KB that they take, SIZE32 and SIZE64.
 Unicode true
 SetCompressor lzma     ; not /SOLID, which needs room for all the files in the temporary folder too
 SetDateSave off        ; the same files give the same installer
@@ -98,7 +98,8 @@ Function check_switches
       ${Case5} "/S" "/AllUsers" "/CurrentUser" "/Force" "/Uninstall"
       ${CaseElse}
         ${If} $1 != ""
-          !insertmacro END_WITH ${MISUSED} "Not understood: $1. There are /S, /AllUsers, /CurrentUser, /Force, /Uninstall and /D=FOLDER."
+          !insertmacro END_WITH ${MISUSED} \
+            "Not understood: $1. There are /S, /AllUsers, /CurrentUser, /Force, /Uninstall and /D=FOLDER."
         ${EndIf}
     ${EndSelect}
     StrCpy $0 $2

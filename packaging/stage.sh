@@ -40,14 +40,14 @@ stage_archive() {
 }
 
 # The check for Windows: its scripts, the libraries, the test programs that need no bridge, and the examples' templates.
-check_tests=(surface binder control manifest registration life memory word writer outlook sessions)
+check_tests=(surface binder control manifest registration life memory word outlook sessions)
 stage_check() {
   local bits test
   stage_libraries "$1"
   for bits in win32 win64; do
     for test in "${check_tests[@]}"; do cp "build/$bits/${test}_test.exe" "$1/$bits"; done
   done
-  cp packaging/check/* examples/letter.dotx examples/letters.dotx "$work/common/NOTICES.txt" "$1"
+  cp packaging/check/* examples/demo/letter.dotx examples/demo/letters.dotx "$work/common/NOTICES.txt" "$1"
   echo "$(version)-$(release)" >"$1/VERSION.txt"
   # Windows' own programs want its line ends.
   sed -i 's/$/\r/' "$1"/*.{cmd,txt,js,vbs,ps1,cs}
@@ -74,7 +74,8 @@ files_of() { (cd "$1" && find . -type f -printf '%P\n' | { if [ "$2" = 64 ]; the
 # NSIS's instructions for them: macro NAME FOLDER BITS
 macro() {
   local file kilobytes
-  kilobytes=$(files_of "$2" "$3" | (cd "$2" && xargs -d '\n' stat -c %s) | awk '{ bytes += $1 } END { print int((bytes + 1023) / 1024) }')
+  kilobytes=$(files_of "$2" "$3" | (cd "$2" && xargs -d '\n' stat -c %s) |
+    awk '{ bytes += $1 } END { print int((bytes + 1023) / 1024) }')
   printf '!define SIZE%s %s\n!macro %s to\n' "$3" "$kilobytes" "$1"
   files_of "$2" "$3" | while IFS= read -r file; do
     printf 'SetOutPath "${to}\\%s"\nFile "%s"\n' "$(dirname "/$file" | cut -c2-)" "$2/$file"

@@ -20,8 +20,8 @@ Function un.onInit
   ${EndIf}
 FunctionEnd
 
-; Where another copy was registered since, that registration is not this one's to remove. Wine keeps one entry for both bitnesses
-; among a user's classes, so either path will do, and both are looked at before anything goes.
+; Where another copy was registered since, that registration is not this one's to remove. Wine keeps one entry for both
+; bitnesses among a user's classes, so either path will do, and both are looked at before anything goes.
 !macro IS_REGISTERED bits answer
   SetRegView ${bits}
   ReadRegStr $0 SHCTX "${CLASS}" ""

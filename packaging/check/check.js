@@ -1,5 +1,5 @@
-// Runs the parts of the check one after the other, and writes the report. Nothing personal goes into it: names of the user and
-// of the machine, and paths that hold them, are replaced.
+// Runs the parts of the check one after the other, and writes the report. Nothing personal goes into it: names of the user
+// and of the machine, and paths that hold them, are replaced.
 var here = WScript.ScriptFullName.replace(/[^\\]*$/, "");
 eval(new ActiveXObject("Scripting.FileSystemObject").OpenTextFile(here + "lib.js", 1).ReadAll());
 
@@ -10,8 +10,10 @@ var own_bits = variable("PROCESSOR_ARCHITECTURE") == "AMD64" ? 64 : 32;
 var has64 = own_bits == 64 || variable("PROCESSOR_ARCHITEW6432") == "AMD64";
 var windows = variable("SystemRoot") + "\\";
 // Where the 32-bit and the 64-bit programs of Windows are, for this script's own bitness.
-var systems = {32: has64 ? windows + "SysWOW64\\" : windows + "System32\\",
-               64: own_bits == 64 ? windows + "System32\\" : windows + "Sysnative\\"};
+var systems = {
+  32: has64 ? windows + "SysWOW64\\" : windows + "System32\\",
+  64: own_bits == 64 ? windows + "System32\\" : windows + "Sysnative\\"
+};
 var bitnesses = has64 ? [32, 64] : [32];
 var work = variable("TEMP") + "\\ZORBOffice check\\";
 
@@ -24,7 +26,7 @@ function without_names(line) {
     var text = names[n][0].replace(/([.*+?^${}()|\[\]\\])/g, "\\$1");
     line = line.replace(new RegExp("(^|[^A-Za-z0-9])" + text + "(?![A-Za-z0-9])", "gi"), "$1" + names[n][1]);
   }
-  return line;
+  return line.replace(/[A-Za-z]:[\\\/]Users[\\\/][^\\\/"'<>|:,;)]+/gi, "<USERPROFILE>");
 }
 
 function write_report() {
@@ -45,23 +47,27 @@ function take(line) {
 
 // Instead of the parts' own.
 say = function(result, key, what, got, expected) {
-  take((result + "        ").substr(0, 8) + key + ": " + what + (got === undefined ? "" : " = " + shown(got)) +
-       (expected === undefined ? "" : " (expected: " + shown(expected) + ")"));
+  take(
+      (result + "        ").substr(0, 8) + key + ": " + what + (got === undefined ? "" : " = " + shown(got)) +
+      (expected === undefined ? "" : " (expected: " + shown(expected) + ")"));
 };
 
-function heading(text) { report.push("", text); WScript.Echo("-- " + text); }
+function heading(text) {
+  report.push("", text);
+  WScript.Echo("-- " + text);
+}
 
 // Runs a command in a window that is not seen, for so many seconds at most; its output goes to a file.
 function run(command, output, seconds) {
   var ended = output + ".ended";
   if (files.FileExists(ended)) files.DeleteFile(ended);
-  var batch = files.CreateTextFile(output + ".cmd", true);
-  batch.WriteLine("@" + command + " > \"" + output + "\" 2>&1 < nul");
-  // It comes into being whole, under its name.
-  batch.WriteLine("@echo %errorlevel% > \"" + ended + ".new\"");
-  batch.WriteLine("@move /y \"" + ended + ".new\" \"" + ended + "\" > nul");
-  batch.Close();
-  shell.Run("cmd /c \"\"" + output + ".cmd\"\"", 0, false);
+  // Not by a batch file, which could not name folders in all languages. What tells the end comes into being whole. The window
+  // is shown: what is started from a hidden one may hide its message boxes.
+  var quoted = "\"" + ended + "\"", coming = "\"" + ended + ".new\"";
+  shell.Run(
+      "cmd /c \"(" + command + " > \"" + output + "\" 2>&1 < nul && echo 0 || echo 1) > " + coming + " & move /y " + coming +
+          " " + quoted + " > nul\"",
+      1, false);
   for (var waited = 0; waited < seconds * 10; ++waited) {
     if (files.FileExists(ended)) return Number(read_file(ended));
     wait(100);
@@ -72,10 +78,15 @@ function run(command, output, seconds) {
 // A script of the check in Windows' script host; its lines are the report's.
 function run_part(name, bits, seconds) {
   var output = work + name + bits + ".out";
-  var ended = run(systems[bits] + "cscript.exe //nologo \"" + here + name + "\" \"" + work.replace(/\\$/, "") + "\" " + bits, output, seconds);
+  var ended =
+      run(systems[bits] + "cscript.exe //nologo \"" + here + name + "\" \"" + work.replace(/\\$/, "") + "\" " + bits, output,
+          seconds);
   var lines = lines_of(output), done = false;
   for (var i = 0; i < lines.length; ++i) {
-    if (lines[i] == "end") done = true; else take(lines[i]);
+    if (lines[i] == "end")
+      done = true;
+    else
+      take(lines[i]);
   }
   if (!done) {
     say("DIFFERS", name.replace(/\..*/, "") + ".end", "the " + bits + "-bit part comes to its end", ended, "0");
@@ -104,8 +115,11 @@ eval(files.OpenTextFile(here + "parts.js", 1).ReadAll());
 heading("ZORBOffice " + read_file(here + "VERSION.txt").replace(/\s+$/, "") + ", check for Windows");
 describe_system();
 var elevated = registry("HKEY_USERS\\S-1-5-19\\Environment\\TEMP") != "";
-if (elevated && !options["/machine"]) finish("An elevated program does not see a user's classes: start it without, or with /machine.");
-if (registry("HKCU\\Software\\Classes" + CLASS) != "" || options["/machine"] && is_registered("ZORBOffice.ZORBWord"))
+if (elevated && !options["/machine"])
+  finish("An elevated program does not see a user's classes: start it without, or with /machine.");
+// What a check of this folder left that was broken off does not matter.
+var standing = registry((options["/machine"] ? "HKLM" : "HKCU") + "\\Software\\Classes" + CLASS);
+if (standing != "" && standing.toLowerCase().indexOf(here.toLowerCase()) != 0)
   finish("ZORBOffice is registered already. Uninstall it first: the check registers its own copy and takes that away again.");
 if (!files.FolderExists(work)) files.CreateFolder(work.replace(/\\$/, ""));
 part("tests", run_tests);

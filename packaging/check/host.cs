@@ -30,7 +30,8 @@ static class Host {
     Console.WriteLine(string.Join(", ", said));
     ITypeLib library;
     LoadTypeLibEx(arguments[0], 2, out library);
-    AssemblyBuilder imported = new TypeLibConverter().ConvertTypeLibToAssembly(library, "imported.dll", 0, new Sink(), null, null, null, null);
+    AssemblyBuilder imported =
+        new TypeLibConverter().ConvertTypeLibToAssembly(library, "imported.dll", 0, new Sink(), null, null, null, null);
     said.Clear();
     foreach (var name in names) {
       int count = 0;

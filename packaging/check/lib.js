@@ -50,7 +50,8 @@ function wait(milliseconds) {
   try {
     WScript.Sleep(milliseconds);
   } catch (failure) {
-    for (var end = new Date().getTime() + milliseconds; new Date().getTime() < end;);
+    for (var end = new Date().getTime() + milliseconds; new Date().getTime() < end;)
+      ;
   }
 }
 
@@ -81,6 +82,13 @@ function registry(path) {
   } catch (failure) {
     return "";
   }
+}
+
+// Whether a program runs, as far as the list of processes tells; where it does not even name this one, it may.
+function may_run(program, list) {
+  attempt(function() { shell.Run("cmd /c \"tasklist /nh /fo csv > \"" + list + "\" 2> nul\"", 0, true); });
+  var names = read_file(list).toLowerCase();
+  return names.indexOf("cscript.exe") < 0 || names.indexOf(program) >= 0;
 }
 
 function is_registered(program) { return registry("HKCR\\" + program + "\\CLSID\\") != ""; }

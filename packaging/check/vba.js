@@ -2,10 +2,11 @@
 var here = WScript.ScriptFullName.replace(/[^\\]*$/, "");
 eval(new ActiveXObject("Scripting.FileSystemObject").OpenTextFile(here + "lib.js", 1).ReadAll());
 var work = WScript.Arguments(0) + "\\";
-var code = "Function host() As String\r\n Dim word As New ZORBOffice50.ZORBWord\r\n Dim outlook As New ZORBOffice50.ZORBOutlook\r\n" +
-  " Dim writer As New ZORBOffice50.OpenWriter\r\n" +
-  " host = \"ZORBWord \" & word.GetLastErrorNumber & \", ZORBOutlook \" & outlook.GetLastErrorNumber & \", OpenWriter \" & writer.GetLastErrorNumber\r\n" +
-  "End Function\r\n";
+var code =
+    "Function host() As String\r\n Dim word As New ZORBOffice50.ZORBWord\r\n Dim outlook As New ZORBOffice50.ZORBOutlook\r\n" +
+    " Dim writer As New ZORBOffice50.OpenWriter\r\n" +
+    " host = \"ZORBWord \" & word.GetLastErrorNumber & \", ZORBOutlook \" & outlook.GetLastErrorNumber & \", OpenWriter \" & writer.GetLastErrorNumber\r\n" +
+    "End Function\r\n";
 
 function try_host(key, program, open, close) {
   if (!is_registered(program)) return skip(key, program + " is not registered");
@@ -22,11 +23,19 @@ function try_host(key, program, open, close) {
   attempt(function() { close(application); });
 }
 
-try_host("host.vba.excel", "Excel.Application", function(excel) { return excel.Workbooks.Add().VBProject; },
-         function(excel) { excel.DisplayAlerts = false; excel.Quit(); });
+try_host(
+    "host.vba.excel", "Excel.Application", function(excel) { return excel.Workbooks.Add().VBProject; },
+    function(excel) {
+      excel.DisplayAlerts = false;
+      excel.Quit();
+    });
 var database = work + "host.accdb";
 if (files.FileExists(database)) files.DeleteFile(database);
-try_host("host.vba.access", "Access.Application", function(access) {
-  access.NewCurrentDatabase(database);
-  return access.VBE.ActiveVBProject; }, function(access) { access.Quit(2); });
+try_host(
+    "host.vba.access", "Access.Application",
+    function(access) {
+      access.NewCurrentDatabase(database);
+      return access.VBE.ActiveVBProject;
+    },
+    function(access) { access.Quit(2); });
 WScript.Echo("end");
