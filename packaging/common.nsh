@@ -87,20 +87,20 @@ Function ${un}is_in_use
   ${EndIf}
 FunctionEnd
 
-; Removes the folder of the files, and those above it that setup made, as far as nothing is in them.
+; Removes the folder of the files and those above it, as far as setup made them and nothing is in them.
 Function ${un}remove_made_folders
   SetOutPath "$TEMP"
-  RMDir "$INSTDIR"
-  ${If} $Made != ""
-    StrCpy $0 $INSTDIR
-    ${DoUntil} $0 == $Made
-      ${GetParent} $0 $0
-      ${If} $0 == ""
-        ${ExitDo}
-      ${EndIf}
-      RMDir $0
-    ${Loop}
-  ${EndIf}
+  StrCpy $0 $INSTDIR
+  ${DoWhile} $Made != ""
+    RMDir $0
+    ${If} $0 == $Made
+      ${ExitDo}
+    ${EndIf}
+    ${GetParent} $0 $0
+    ${If} $0 == ""
+      ${ExitDo}
+    ${EndIf}
+  ${Loop}
   ClearErrors
 FunctionEnd
 !macroend

@@ -41,7 +41,6 @@ Function leave_scope_page
       Quit
     ${EndIf}
   ${EndIf}
-  StrCpy $Made ""
   Call enter_scope
 FunctionEnd
 

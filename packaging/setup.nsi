@@ -38,6 +38,7 @@ VIAddVersionKey LegalCopyright ""
 Var Scope        ; machine or user
 Var Has64        ; yes on 64-bit Windows
 Var Installed    ; the version that is there, as 5.0.0.42.1
+Var Wanted       ; the folder that /D names
 Var Work         ; where the new files wait and the old ones are kept until all is well
 Var Line         ; of a list
 Var Trouble      ; the file that something could not be done with
@@ -134,7 +135,7 @@ Function choose_scope
       StrCpy $Scope user
     ${EndIf}
   ${EndIf}
-  StrCpy $Made $INSTDIR  ; what /D named, until it is known
+  StrCpy $Wanted $INSTDIR
   Call enter_scope
 FunctionEnd
 
@@ -150,7 +151,7 @@ Function enter_scope
   ReadRegStr $Installed SHCTX "${KEY}" Release
   ReadRegStr $INSTDIR SHCTX "${KEY}" InstallLocation
   ${If} $INSTDIR == ""
-    StrCpy $INSTDIR $Made
+    StrCpy $INSTDIR $Wanted
   ${EndIf}
   ${If} $INSTDIR == ""
     StrCpy $INSTDIR $0

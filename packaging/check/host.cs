@@ -28,17 +28,25 @@ static class Host {
                                               Activator.CreateInstance(type), null));
     }
     Console.WriteLine(string.Join(", ", said));
+    try {
+      Console.WriteLine("importer " + Import(arguments[0]));
+    } catch (Exception failure) {
+      Console.WriteLine("importer: " + failure.GetType().Name + " " + failure.Message);
+    }
+  }
+
+  static string Import(string file) {
+    var said = new List<string>();
     ITypeLib library;
-    LoadTypeLibEx(arguments[0], 2, out library);
+    LoadTypeLibEx(file, 2, out library);
     AssemblyBuilder imported =
         new TypeLibConverter().ConvertTypeLibToAssembly(library, "imported.dll", 0, new Sink(), null, null, null, null);
-    said.Clear();
     foreach (var name in names) {
       int count = 0;
-      foreach (var type in imported.GetTypes())
+      foreach (var type in imported.GetModules()[0].GetTypes())
         if (type.Name == "_" + name) count = type.GetMethods().Length;
       said.Add(name + " " + count);
     }
-    Console.WriteLine("importer " + string.Join(", ", said));
+    return string.Join(", ", said);
   }
 }
