@@ -61,7 +61,7 @@ constexpr Member members[] = {
      method,
      VT_BOOL,
      native_call<&I::InitItems>,
-     {entry_type,
+     {string(L"EntryType", says("The kind of item, or Sent Items, or Deleted and a kind.")),
       string(L"Condition",
              says("A condition in Outlook's own form, as [Complete] = False; an empty text takes all."))},
      says("Takes the items of the entry type's default folder, those that a condition names, for a walk.")},

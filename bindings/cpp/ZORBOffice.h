@@ -1158,7 +1158,7 @@ class ZORBOutlook : public detail::Control<IZORBOutlook> {
   }
 
   /// Takes the items of the entry type's default folder, those that a condition names, for a walk.
-  /// @param EntryType The kind of item: Appointment, Contact, Note, Task or Email.
+  /// @param EntryType The kind of item, or Sent Items, or Deleted and a kind.
   /// @param Condition A condition in Outlook's own form, as [Complete] = False; an empty text takes all.
   bool InitItems(const std::wstring& EntryType, const std::wstring& Condition) {
     detail::Flag result;

@@ -1214,7 +1214,7 @@ namespace ZORBOffice {
     }
 
     /// <summary>Takes the items of the entry type's default folder, those that a condition names, for a walk.</summary>
-    /// <param name="EntryType">The kind of item: Appointment, Contact, Note, Task or Email.</param>
+    /// <param name="EntryType">The kind of item, or Sent Items, or Deleted and a kind.</param>
     /// <param name="Condition">A condition in Outlook's own form, as [Complete] = False; an empty text takes
     /// all.</param>
     public bool InitItems(string EntryType, string Condition) {

@@ -741,7 +741,7 @@ type
     /// <param name="EntryType">The kind of item: Appointment, Contact, Note, Task or Email.</param>
     function OpenItem(EntryType: WideString): Boolean;
     /// <summary>Takes the items of the entry type's default folder, those that a condition names, for a walk.</summary>
-    /// <param name="EntryType">The kind of item: Appointment, Contact, Note, Task or Email.</param>
+    /// <param name="EntryType">The kind of item, or Sent Items, or Deleted and a kind.</param>
     /// <param name="Condition">A condition in Outlook's own form, as [Complete] = False; an empty text takes
     /// all.</param>
     function InitItems(EntryType: WideString; Condition: WideString): Boolean;

@@ -790,7 +790,7 @@ class ZORBOutlook(_Control):
     def InitItems(self, EntryType: str, Condition: str) -> bool:
         """Takes the items of the entry type's default folder, those that a condition names, for a walk.
 
-        EntryType: The kind of item: Appointment, Contact, Note, Task or Email.
+        EntryType: The kind of item, or Sent Items, or Deleted and a kind.
         Condition: A condition in Outlook's own form, as [Complete] = False; an empty text takes all.
         """
         return bool(self._call(0x60030005, EntryType, Condition))
