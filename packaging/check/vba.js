@@ -5,7 +5,8 @@ var work = WScript.Arguments(0) + "\\";
 var code =
     "Function host() As String\r\n Dim word As New ZORBOffice50.ZORBWord\r\n Dim outlook As New ZORBOffice50.ZORBOutlook\r\n" +
     " Dim writer As New ZORBOffice50.OpenWriter\r\n" +
-    " host = \"ZORBWord \" & word.GetLastErrorNumber & \", ZORBOutlook \" & outlook.GetLastErrorNumber & \", OpenWriter \" & writer.GetLastErrorNumber\r\n" +
+    " host = \"ZORBWord \" & word.GetLastErrorNumber & \", ZORBOutlook \" & outlook.GetLastErrorNumber\r\n" +
+    " host = host & \", OpenWriter \" & writer.GetLastErrorNumber\r\n" +
     "End Function\r\n";
 
 function try_host(key, program, open, close) {
