@@ -12,7 +12,7 @@ _variant_t temporary(const std::wstring& name) {
   return (folder + (L"zorb " + name)).c_str();
 }
 
-_variant_t demo_template() { return project_file(L"examples\\letters.dotx").c_str(); }
+_variant_t demo_template() { return project_file(L"examples\\demo\\letters.dotx").c_str(); }
 
 class Office : public HostTest<0> {
  protected:
