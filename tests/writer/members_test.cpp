@@ -1,5 +1,4 @@
 // What OpenWriter's own members ask of the suite, and how they fail at each of their steps.
-#include "support/apartments.h"
 #include "support/member_rows.h"
 
 namespace {
@@ -117,11 +116,17 @@ class Global : public WriterTest {
   // answers; that one has ended when this returns. Returns what was asked of its suite.
   static std::vector<std::string> start_elsewhere() {
     std::vector<std::string> log;
-    run_in({{COINIT_APARTMENTTHREADED, [&] {
-               FakeSuite suite(Serving::unnamed);
-               EXPECT_EQ(late_call(outside::create(outside::classes[2]).Get(), L"Start", {true}), "ui1 1");
-               log = suite.log;
-             }}});
+    const auto start = [](void* context) WINAPI -> DWORD {
+      // It begins and ends the apartment: until then stubs hold its objects.
+      FakeSuite suite(Serving::unnamed);
+      EXPECT_EQ(late_call(outside::create(outside::classes[2]).Get(), L"Start", {true}), "ui1 1");
+      *static_cast<std::vector<std::string>*>(context) = suite.log;
+      return 0;
+    };
+    HANDLE thread = CreateThread(nullptr, 0, start, &log, 0, nullptr);
+    DWORD index = 0;
+    EXPECT_EQ(CoWaitForMultipleHandles(0, 30'000, 1, &thread, &index), S_OK);
+    CloseHandle(thread);
     return log;
   }
 };
