@@ -39,13 +39,15 @@ stage_archive() {
   done
 }
 
+# The programs that the check has a row for.
+check_tests() { sed -n 's/^ *\([a-z]*_test\): ".*/\1/p' packaging/check/parts.js; }
+
 # The check for Windows: its scripts, the libraries, the test programs that need no bridge, and the examples' templates.
-check_tests=(surface binder control manifest registration life memory word outlook sessions)
 stage_check() {
   local bits test
   stage_libraries "$1"
   for bits in win32 win64; do
-    for test in "${check_tests[@]}"; do cp "build/$bits/${test}_test.exe" "$1/$bits"; done
+    for test in $(check_tests); do cp "build/$bits/$test.exe" "$1/$bits"; done
   done
   cp packaging/check/* examples/demo/letter.dotx examples/demo/letters.dotx "$work/common/NOTICES.txt" "$1"
   echo "$(version)-$(release)" >"$1/VERSION.txt"

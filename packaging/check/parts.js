@@ -54,7 +54,6 @@ function run_tests() {
     life_test: "unregistered, no office",
     memory_test: "unregistered, machine, no office",
     word_test: "machine, no office",
-    writer_test: "machine, no office",
     outlook_test: "machine, no office",
     sessions_test: "machine, no office"
   };
