@@ -628,10 +628,11 @@ class UnregisteredLibrary {
       source.lpResourceName = MAKEINTRESOURCEW(1);
     }
     context_ = CreateActCtxW(&source);
-    if (context_ == INVALID_HANDLE_VALUE) fail(path);
+    if (context_ == INVALID_HANDLE_VALUE) fail(path, GetLastError());
     if (!ActivateActCtx(context_, &cookie_)) {
+      const DWORD error = GetLastError();
       ReleaseActCtx(context_);
-      fail(path);
+      fail(path, error);
     }
   }
   ~UnregisteredLibrary() {
@@ -642,8 +643,8 @@ class UnregisteredLibrary {
   UnregisteredLibrary& operator=(const UnregisteredLibrary&) = delete;
 
  private:
-  static void fail(const std::wstring& path) {
-    throw Error(HRESULT_FROM_WIN32(GetLastError()), L"The library's manifest cannot be used: " + path);
+  static void fail(const std::wstring& path, DWORD error) {
+    throw Error(HRESULT_FROM_WIN32(error), L"The library's manifest cannot be used: " + path);
   }
 
   HANDLE context_;
