@@ -1,8 +1,10 @@
 // zorboffice_bridge: the COM local server of the bridge. See README.md for the whole picture.
 #include "peer.h"
 
+#include <algorithm>
 #include <cstdio>
 #include <cwchar>
+#include <utility>
 
 #include "call_error.h"
 #include "class_factory.h"
@@ -65,6 +67,24 @@ struct Server {
                                                    {kServedClasses[2], peer, clients, objects}};
 };
 
+// Keeps an object of each interface that clients call ready for them, for ever. Where the last one goes, Wine
+// takes the interface back, and waits for ever for a call before that is just ending, or for another client's
+// that is just offering it anew.
+bool keep_interfaces(Server& server) {
+  VARIANT none{};
+  V_VT(&none) = VT_ARRAY | VT_VARIANT;
+  V_ARRAY(&none) = SafeArrayCreateVector(VT_VARIANT, 0, 0);
+  const std::pair<const IID&, IUnknown*> kept[] = {{IID_IClassFactory, &server.factories[0]},
+                                                   {IID_IDispatch, server.objects.make(0, "")},
+                                                   {IID_IEnumVARIANT, new Enumeration(none)}};
+  return std::ranges::all_of(kept, [](const auto& each) {
+    IStream* stream = nullptr;
+    return SUCCEEDED(CreateStreamOnHGlobal(nullptr, TRUE, &stream)) &&
+           SUCCEEDED(CoMarshalInterface(stream, each.first, each.second, MSHCTX_LOCAL, nullptr,
+                                        MSHLFLAGS_TABLESTRONG));
+  });
+}
+
 int serve(unsigned short port) {
   keep_stubs_at_hand();
   // A client that comes while the server is still starting makes the platform start another one.
@@ -72,6 +92,7 @@ int serve(unsigned short port) {
   if (!only || GetLastError() == ERROR_ALREADY_EXISTS) return fail("already serving");
   // Never destroyed: clients may hold objects to the end of the process, and its other threads use the peer.
   Server& server = *new Server;
+  if (!keep_interfaces(server)) return fail("cannot offer the interfaces");
   if (!server.peer.connect(port)) return fail("no peer at the port");
   try {
     greet(server.peer);
