@@ -119,7 +119,8 @@ void ServedClasses::keep_interfaces() const {
       FAILED(information->GetContainingTypeLib(library.receive(), &index))) {
     throw std::runtime_error("no type information");
   }
-  const std::pair<const IID&, IUnknown*> kept[] = {{IID_IDispatch, root},
+  const std::pair<const IID&, IUnknown*> kept[] = {{IID_IClassFactory, &factory(0)},
+                                                   {IID_IDispatch, root},
                                                    {IID_IEnumVARIANT, make_elements(application)},
                                                    {IID_ITypeInfo, information.get()},
                                                    {IID_ITypeLib, library.get()}};

@@ -62,8 +62,8 @@ class ServedClasses {
   ServedClasses(const ServedClasses&) = delete;
   ServedClasses& operator=(const ServedClasses&) = delete;
 
-  // Keeps an object of each interface that goes to other processes ready for them. Where the last one went,
-  // Wine would take the interface back, and wait for ever when the call before is just ending.
+  // Keeps an object of each interface that other processes call ready for them. Where the last one goes, Wine
+  // takes the interface back, and waits for ever for a call before that is just ending.
   void keep_interfaces() const;
 
  private:

@@ -10,26 +10,11 @@
 #include <string>
 #include <string_view>
 
+#include "bench/marshaling.h"
 #include "bench/office.h"
 #include "bench/office_registration.h"
 
 namespace {
-
-// Every object that goes to a client needs a stub, for which the platform reads the registry anew each time,
-// unless the process itself offers the stubs' class. That would be most of what a call takes.
-void keep_stubs_at_hand() {
-  CLSID stubs{};
-  IUnknown* factory = nullptr;
-  DWORD cookie = 0;
-  if (FAILED(CoGetPSClsid(IID_IDispatch, &stubs)) || FAILED(CoRegisterPSClsid(IID_IDispatch, stubs)) ||
-      FAILED(CoGetClassObject(stubs, CLSCTX_INPROC_SERVER, nullptr, IID_IPSFactoryBuffer,
-                              reinterpret_cast<void**>(&factory)))) {
-    return;
-  }
-  CoRegisterClassObject(stubs, factory, CLSCTX_INPROC_SERVER | CLSCTX_INPROC_HANDLER, REGCLS_MULTIPLEUSE,
-                        &cookie);
-  factory->Release();
-}
 
 void serve(const std::wstring& folder, HANDLE stopped) {
   wchar_t program[MAX_PATH] = {};
@@ -39,7 +24,7 @@ void serve(const std::wstring& folder, HANDLE stopped) {
   } at_the_end;
   bench::register_applications(folder, L"\"" + std::wstring(program) + L"\" --serve \"" + folder + L"\"");
   ResetEvent(stopped);  // an earlier server that does not end holds it as it was
-  keep_stubs_at_hand();
+  bench::keep_proxies_and_stubs_at_hand();
   const bench::ServedClasses served(CLSCTX_LOCAL_SERVER);
   served.keep_interfaces();
   std::puts("ready");
