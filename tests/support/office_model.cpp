@@ -179,12 +179,20 @@ class Library {
     require(made->SetVersion(1, 0));
     require(made->SetName(const_cast<wchar_t*>(L"RecordingOffice")));
     std::map<std::string, ComPtr<ICreateTypeInfo>> infos;
+    ComPtr<ITypeLib> standard;
+    ComPtr<ITypeInfo> dispatch;
+    require(LoadTypeLib(L"stdole2.tlb", &standard));
+    require(standard->GetTypeInfoOfGuid(IID_IDispatch, &dispatch));
     GUID id = library_id;
     for (const auto& type : types()) {
       ++id.Data1;
-      require(made->CreateTypeInfo(wide(type).data(), TKIND_DISPATCH, &infos[type]));
-      require(infos[type]->SetGuid(id));
-      require(infos[type]->SetTypeFlags(TYPEFLAG_FDISPATCHABLE));
+      HREFTYPE base = 0;
+      auto& info = infos[type];
+      require(made->CreateTypeInfo(wide(type).data(), TKIND_INTERFACE, &info));
+      require(info->SetGuid(id));
+      require(info->SetTypeFlags(TYPEFLAG_FDUAL | TYPEFLAG_FOLEAUTOMATION | TYPEFLAG_FDISPATCHABLE));
+      require(info->AddRefTypeInfo(dispatch.Get(), &base));
+      require(info->AddImplType(0, base));
     }
     std::map<std::string, ComPtr<ITypeInfo>> declared;
     for (const auto& [type, info] : infos) {
@@ -234,28 +242,30 @@ class Library {
     const auto& own = argument_names(name);
     const size_t count =
         row == std::end(answering) ? std::max<size_t>(own.size(), 12) : std::max(row->arguments, own.size());
-    std::vector<ELEMDESC> parameters(count);
+    std::vector<ELEMDESC> parameters(count + 1);
     for (auto& parameter : parameters) {
       parameter.tdesc.vt = VT_VARIANT;
       parameter.paramdesc.wParamFlags = PARAMFLAG_FIN | PARAMFLAG_FOPT;
     }
-    TYPEDESC object{};
+    TYPEDESC object{}, answer{};
+    parameters[count].tdesc.vt = VT_PTR;
+    parameters[count].tdesc.lptdesc = &answer;
+    parameters[count].paramdesc.wParamFlags = PARAMFLAG_FOUT | PARAMFLAG_FRETVAL;
     FUNCDESC function{};
     function.memid = id;
-    function.funckind = FUNC_DISPATCH;
+    function.funckind = FUNC_PUREVIRTUAL;
     function.invkind = INVOKE_FUNC;
     function.callconv = CC_STDCALL;
-    function.cParams = static_cast<SHORT>(count);
+    function.oVft = static_cast<SHORT>((7 + index) * sizeof(void*));  // behind IDispatch's
+    function.cParams = static_cast<SHORT>(parameters.size());
     function.lprgelemdescParam = parameters.data();
-    function.elemdescFunc.tdesc.vt = VT_VARIANT;
-    if (row != std::end(answering)) {
-      function.elemdescFunc.tdesc.vt = VT_DISPATCH;
-      if (*row->answer) {
-        require(infos.at(type)->AddRefTypeInfo(declared.at(row->answer).Get(), &object.hreftype));
-        object.vt = VT_USERDEFINED;
-        function.elemdescFunc.tdesc.vt = VT_PTR;
-        function.elemdescFunc.tdesc.lptdesc = &object;
-      }
+    function.elemdescFunc.tdesc.vt = VT_HRESULT;
+    answer.vt = row == std::end(answering) ? VT_VARIANT : VT_DISPATCH;
+    if (row != std::end(answering) && *row->answer) {
+      require(infos.at(type)->AddRefTypeInfo(declared.at(row->answer).Get(), &object.hreftype));
+      object.vt = VT_USERDEFINED;
+      answer.vt = VT_PTR;
+      answer.lptdesc = &object;
     }
     require(infos.at(type)->AddFuncDesc(index, &function));
     std::vector<std::wstring> names = {name == "[value]" ? L"_Default" : wide(name)};
