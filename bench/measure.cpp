@@ -149,7 +149,7 @@ void measure_inside() {
   settings().cost = 1000;
   for (std::size_t i = 0; i < subjects.size(); ++i) {
     progress(i, subjects.size());
-    print_times(subjects[i], "inside", 60, 10, tenth);
+    print_times(subjects[i], "inside", *subjects[i].member->own_cost ? 6 : 60, 10, tenth);
   }
   settings().cost = 0;
 }
